@@ -1,0 +1,105 @@
+#pragma once
+
+#include "analysis/OperationQueue.h"
+#include "analysis/WordDictionary.h"
+#include "analysis/tagComplex.h"
+#include "analysis/tagger/Tagger.h"
+#include "base/Colour.h"
+#include "ports/PopUpButton.h"
+#include "ports/ProgressIndicator.h"
+#include "ports/ScrollView.h"
+#include "ports/TextField.h"
+#include "ports/TextPane.h"
+#include "ports/ViewControllerBase.h"
+#include "ports/Window.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lexiform {
+
+/// The state and the commands of one document window's analysis.
+///
+/// The window's layout connects the panes and controls by storing them in the fields, before the
+/// window comes on screen; a command that needs one which is absent stops the program. Everything
+/// runs on the main thread, inside the event that triggers it. Every pass rebuilds its state and
+/// never merges with an earlier one.
+class ViewController : public ViewControllerBase,
+                       public WindowDelegate,
+                       public std::enable_shared_from_this<ViewController> {
+public:
+    /// A controller with every field at its default; `makeTagger` gives each pass its tagger.
+    explicit ViewController(TaggerFactory makeTagger);
+
+    std::string inputText;
+    std::int64_t totWordC = 0;
+
+    WordDictionary verbs;
+    WordDictionary nouns;
+    WordDictionary adjectives;
+    WordDictionary adverbs;
+    WordDictionary pronouns;
+    WordDictionary determiners;
+    WordDictionary particles;
+    WordDictionary prepositions;
+    WordDictionary conjunctions;
+    WordDictionary names;
+
+    std::vector<std::string> tagWords;
+    std::vector<std::string> tagScripts;
+    std::vector<std::string> tagLangs;
+    std::vector<std::string> tagTypes;
+    std::vector<std::string> tagLemmas;
+    std::vector<tagComplex> taggedText;
+    std::vector<std::string> indScripts;
+    std::vector<std::string> indLangs;
+    std::vector<std::string> indTypes;
+
+    /// Entry k is the colour of the class in line k of `stdColourKeys`, empty lines not counted.
+    static constexpr std::array<Colour, 9> stdColours = {Colour::gray,  Colour::red,    Colour::blue,
+                                                         Colour::green, Colour::purple, Colour::yellow,
+                                                         Colour::brown, Colour::pink,   Colour::orange};
+    static constexpr std::array<std::string_view, 5> theMenuItems = {"Script", "Language", "Types",
+                                                                     "Types (std)", "Lemmas"};
+    static constexpr std::string_view stdColourKeys =
+        "particle\n\nverb\n\nnoun\n\nadjective\n\nadverb\n\npronoun\n\ndeterminer\n\npreposition\n\n"
+        "conjunction";
+
+    std::weak_ptr<PopUpButton> typesPopup;
+    std::weak_ptr<ScrollView> intextScroller;
+    std::shared_ptr<TextPane> intextTextbox;
+    std::weak_ptr<ScrollView> outtextScroller;
+    std::shared_ptr<TextPane> outtextTextbox;
+    std::weak_ptr<ScrollView> concordScroller;
+    std::shared_ptr<TextPane> concordTextbox;
+    std::shared_ptr<TextField> colourKeyText;
+    std::shared_ptr<ProgressIndicator> progressSpinner;
+    const OperationQueue processingQueue{4};
+
+    /// The window has come on screen: fills and disables the types pop-up, runs the lexical pass when
+    /// the input pane holds text, and hides the busy indicator.
+    void viewDidAppear() override;
+
+    /// The lexical pass: tags the input pane's text, counts every word into the dictionary of its
+    /// class, and writes the text, coloured by class, into the output pane with the key beside it.
+    void parseText();
+    /// The lexical pass on demand: it also drops the multi-scheme records and disables the pop-up.
+    void parseButton();
+
+    /// Puts `text` in the place of all that the input pane holds, in the default text colour.
+    void setInputText(std::string_view text);
+    /// Adds `text` to the end of the output pane in the default text colour, with nothing between.
+    void appendOutputText(std::string_view text);
+
+    /// Empties the ten word dictionaries and leaves everything else alone, `totWordC` included.
+    void clearWordDicts();
+
+private:
+    TaggerFactory makeTagger_;
+};
+
+} // namespace lexiform

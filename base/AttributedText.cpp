@@ -1,0 +1,44 @@
+#include "base/AttributedText.h"
+
+#include "base/fatalError.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lexiform {
+
+AttributedText::AttributedText(std::string text, Colour colour) : string_(std::move(text)) {
+    if (!string_.empty()) runs_.push_back({string_.size(), colour});
+}
+
+void AttributedText::append(std::string_view piece, Colour colour) {
+    if (piece.empty()) return;
+    string_.append(piece);
+    extend(string_.size(), colour);
+}
+
+void AttributedText::append(const AttributedText& other) {
+    const std::size_t base = string_.size();
+    // Appending a text to itself must read the runs as they were before.
+    const std::vector<Run> added = other.runs_;
+    string_.append(other.string_);
+    for (const Run& run : added)
+        extend(base + run.end, run.colour);
+}
+
+Colour AttributedText::colourAt(std::size_t offset) const {
+    if (offset >= string_.size()) fatalError("a colour was asked for past the end of a text");
+    const auto run =
+        std::upper_bound(runs_.begin(), runs_.end(), offset,
+                         [](std::size_t at, const Run& candidate) { return at < candidate.end; });
+    return run->colour;
+}
+
+void AttributedText::extend(std::size_t end, Colour colour) {
+    if (!runs_.empty() && runs_.back().colour == colour)
+        runs_.back().end = end;
+    else
+        runs_.push_back({end, colour});
+}
+
+} // namespace lexiform

@@ -1,0 +1,48 @@
+# One call per folder: `lexiform_layer(NAME USES other layers LINKS libraries)` makes the static
+# library `lexiform_NAME` from every source in the folder. USES is the whole of what the layer may
+# include; tools/check_layers.py holds the includes against the same order of levels.
+
+add_library(lexiform_options INTERFACE)
+target_compile_options(lexiform_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+if(LEXIFORM_WERROR)
+  target_compile_options(lexiform_options INTERFACE -Werror)
+endif()
+if(LEXIFORM_SANITIZE)
+  target_compile_options(lexiform_options INTERFACE
+    -fsanitize=${LEXIFORM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(lexiform_options INTERFACE -fsanitize=${LEXIFORM_SANITIZE})
+endif()
+if(LEXIFORM_COVERAGE)
+  target_compile_options(lexiform_options INTERFACE --coverage)
+  target_link_options(lexiform_options INTERFACE --coverage)
+endif()
+
+function(lexiform_layer name)
+  cmake_parse_arguments(LAYER "" "" "USES;LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  list(TRANSFORM LAYER_USES PREPEND lexiform_)
+  if(sources)
+    add_library(lexiform_${name} STATIC ${sources})
+    target_include_directories(lexiform_${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(lexiform_${name} PUBLIC ${LAYER_USES} ${LAYER_LINKS} PRIVATE lexiform_options)
+  else()
+    add_library(lexiform_${name} INTERFACE)
+    target_include_directories(lexiform_${name} INTERFACE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(lexiform_${name} INTERFACE ${LAYER_USES} ${LAYER_LINKS})
+  endif()
+endfunction()
+
+# `lexiform_tests(NAME USES layers LINKS libraries)` makes one GoogleTest program from a tests folder.
+function(lexiform_tests name)
+  cmake_parse_arguments(TESTS "" "" "USES;LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  list(TRANSFORM TESTS_USES PREPEND lexiform_)
+  add_executable(${name}-tests ${sources})
+  target_link_libraries(${name}-tests PRIVATE ${TESTS_USES} ${TESTS_LINKS}
+    lexiform_options GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${name}-tests PRIVATE
+    LEXIFORM_MODELS_DIR="${PROJECT_SOURCE_DIR}/resources/models"
+    LEXIFORM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  gtest_discover_tests(${name}-tests TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
+    PROPERTIES LABELS unit TIMEOUT 300)
+endfunction()

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "base/TextRange.h"
+#include "linguistics/UniversalPos.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace lexiform::linguistics {
+
+/// What a token is by its characters alone.
+enum class TokenKind : std::uint8_t {
+    word,        ///< letters, digits and what holds them together; URLs, handles and the like
+    punctuation, ///< punctuation marks
+    symbol,      ///< other marks: currency, mathematics, emoji, control characters, stray bytes
+    whitespace,  ///< a run of white space within a line
+    lineBreak,   ///< one line or paragraph separator: \n, \r\n, \r, VT, FF, U+0085, U+2028, U+2029
+};
+
+/// Whose name a token is part of.
+enum class NameType : std::uint8_t { none, person, place, organization };
+
+/// One token of a text. Every byte of a paragraph lies in exactly one of its tokens.
+struct Token {
+    TextRange range; ///< bytes of the analysed text
+    TokenKind kind = TokenKind::word;
+    /// Meaningless for white space and line breaks.
+    UniversalPos pos = UniversalPos::X;
+    NameType name = NameType::none;
+    /// True for the first token of a name (the tokens of one name follow each other, white space aside).
+    bool startsName = false;
+    /// True for the first token of a sentence, which is never white space unless the paragraph holds nothing
+    /// else.
+    bool startsSentence = false;
+    /// ISO 15924, four ASCII letters, for example "Latn"; empty where the text tells none.
+    std::string_view script;
+    /// BCP 47, for example "en"; empty where it cannot be told.
+    std::string_view language;
+    /// The dictionary form; nothing where the engine gives none. Lasts as long as the paragraph.
+    std::optional<std::string_view> lemma;
+};
+
+/// A paragraph, the unit of analysis: its tokens depend on nothing outside it. The line breaks that
+/// end it belong to it, so paragraphs cover the text without gaps.
+struct Paragraph {
+    TextRange range; ///< bytes of the analysed text
+    std::vector<Token> tokens;
+};
+
+} // namespace lexiform::linguistics

@@ -1,0 +1,78 @@
+#include "platform/qt/theme/Appearance.h"
+
+#include <array>
+#include <cstddef>
+
+namespace lexiform::qt {
+
+namespace {
+
+struct Shades {
+    QRgb light;
+    QRgb dark;
+};
+
+// In the order of Colour. The familiar system values all miss a contrast of 4.5:1 on white.
+constexpr std::array<Shades, 10> shades = {{
+    {0xFF6E6E73, 0xFF9A9AA0},
+    {0xFFD70015, 0xFFFF6961},
+    {0xFF0055D4, 0xFF5AA9FF},
+    {0xFF1A7F37, 0xFF3DD65C},
+    {0xFF8A3FB0, 0xFFD18BFA},
+    {0xFF8A6A00, 0xFFFFD60A},
+    {0xFF7A5230, 0xFFC9A77C},
+    {0xFFD30F6E, 0xFFFF85B5},
+    {0xFFB84A00, 0xFFFFA033},
+    {0xFF1B1E23, 0xFFE7E9EC},
+}};
+
+} // namespace
+
+Appearance appearanceOf(const QPalette& palette) {
+    const int text = palette.color(QPalette::WindowText).lightness();
+    const int window = palette.color(QPalette::Window).lightness();
+    return text > window ? Appearance::dark : Appearance::light;
+}
+
+QColor valueOf(Colour colour, Appearance appearance) {
+    const Shades& pair = shades[static_cast<std::size_t>(colour)];
+    return QColor::fromRgb(appearance == Appearance::dark ? pair.dark : pair.light);
+}
+
+const Surfaces& surfacesOf(Appearance appearance) {
+    static const Surfaces light{
+        .window = 0xF2F3F5,
+        .pane = 0xFFFFFF,
+        .paneBorder = 0xD8DCE2,
+        .controlBorder = 0x868D98,
+        .controlFill = 0xFFFFFF,
+        .text = 0x1B1E23,
+        .secondaryText = 0x565D68,
+        .disabledText = 0x8B929D,
+        .disabledBorder = 0xD8DCE2,
+        .hover = 0xE5E8EC,
+        .pressed = 0xD8DCE2,
+        .selection = 0xCFDFEE,
+        .focus = 0x2B5C8A,
+        .handle = 0xC2C8D0,
+    };
+    static const Surfaces dark{
+        .window = 0x23272D,
+        .pane = 0x15181C,
+        .paneBorder = 0x23272D,
+        .controlBorder = 0x6F7783,
+        .controlFill = 0x2E333B,
+        .text = 0xE7E9EC,
+        .secondaryText = 0xA6AEB9,
+        .disabledText = 0x737B87,
+        .disabledBorder = 0x3A414B,
+        .hover = 0x2E333B,
+        .pressed = 0x3A414B,
+        .selection = 0x2C4A66,
+        .focus = 0x8FBCE6,
+        .handle = 0x454D58,
+    };
+    return appearance == Appearance::dark ? dark : light;
+}
+
+} // namespace lexiform::qt

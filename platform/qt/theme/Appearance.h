@@ -1,0 +1,40 @@
+#pragma once
+
+#include "base/Colour.h"
+
+#include <QColor>
+#include <QPalette>
+
+namespace lexiform::qt {
+
+/// Whether the desktop shows dark text on light surfaces or the reverse.
+enum class Appearance { light, dark };
+
+/// Dark when the palette's window text is lighter than its window.
+[[nodiscard]] Appearance appearanceOf(const QPalette& palette);
+
+/// The value of a colour on a pane of this appearance. Every one has a contrast of at least 4.6:1
+/// with its pane.
+[[nodiscard]] QColor valueOf(Colour colour, Appearance appearance);
+
+/// The neutral surfaces of the windows. Hue belongs to words: the only other tint is `focus`.
+struct Surfaces {
+    QColor window;
+    QColor pane;
+    QColor paneBorder; ///< equal to `window` where panes have no outline
+    QColor controlBorder;
+    QColor controlFill;
+    QColor text;
+    QColor secondaryText;
+    QColor disabledText;
+    QColor disabledBorder;
+    QColor hover;
+    QColor pressed;
+    QColor selection;
+    QColor focus;
+    QColor handle; ///< splitter grips and scroll bars
+};
+
+[[nodiscard]] const Surfaces& surfacesOf(Appearance appearance);
+
+} // namespace lexiform::qt

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+
+namespace lexiform {
+
+/// Whoever a window tells of its events. It has no operations: no window of the program reports any.
+class WindowDelegate {
+public:
+    virtual ~WindowDelegate() = default;
+};
+
+/// A window on the desktop.
+class Window {
+public:
+    virtual ~Window() = default;
+
+    /// The window keeps no delegate alive.
+    virtual void setDelegate(std::weak_ptr<WindowDelegate> delegate) = 0;
+};
+
+} // namespace lexiform
