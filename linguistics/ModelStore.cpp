@@ -1,0 +1,37 @@
+#include "linguistics/ModelStore.h"
+
+#include "linguistics/Model.h"
+
+#include <utility>
+
+namespace lexiform::linguistics {
+
+ModelStore::ModelStore(std::vector<std::filesystem::path> folders) : folders_(std::move(folders)) {}
+
+ModelStore::~ModelStore() = default;
+
+ModelStore::Loaded ModelStore::model(std::string_view language) const {
+    // Held while loading, so that two threads that need a model do not both read it.
+    const std::lock_guard lock(mutex_);
+    const auto known = loaded_.find(language);
+    if (known != loaded_.end()) return known->second;
+    return loaded_.emplace(std::string(language), load(language)).first->second;
+}
+
+Outcome<Done, ModelFault> ModelStore::check(std::string_view language) const {
+    const Loaded answer = model(language);
+    if (!answer.succeeded()) return answer.fault();
+    return Done{};
+}
+
+ModelStore::Loaded ModelStore::load(std::string_view language) const {
+    const std::string name = std::string(language) + ".lxm";
+    for (const std::filesystem::path& folder : folders_) {
+        std::error_code error;
+        const std::filesystem::path file = folder / name;
+        if (std::filesystem::exists(file, error)) return Model::load(file);
+    }
+    return ModelFault{{}, "no folder of models holds " + name, true};
+}
+
+} // namespace lexiform::linguistics

@@ -1,0 +1,189 @@
+#include "linguistics/SentenceMarker.h"
+
+#include "linguistics/AsciiText.h"
+#include "linguistics/Characters.h"
+#include "linguistics/EnglishWords.h"
+#include "linguistics/LineWrapping.h"
+
+#include <array>
+
+namespace lexiform::linguistics {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+// Words that start a sentence when they follow an abbreviation with a capital.
+constexpr std::array sentenceStarters = {
+    "a"sv,     "after"sv, "also"sv,  "an"sv,    "and"sv,  "as"sv,   "at"sv, "but"sv,  "for"sv,
+    "he"sv,    "her"sv,   "here"sv,  "his"sv,   "how"sv,  "i"sv,    "if"sv, "in"sv,   "is"sv,
+    "it"sv,    "my"sv,    "no"sv,    "on"sv,    "our"sv,  "she"sv,  "so"sv, "some"sv, "the"sv,
+    "their"sv, "then"sv,  "there"sv, "these"sv, "they"sv, "this"sv, "to"sv, "we"sv,   "what"sv,
+    "when"sv,  "while"sv, "who"sv,   "why"sv,   "you"sv};
+static_assert(std::is_sorted(sentenceStarters.begin(), sentenceStarters.end()));
+
+enum class Ending { none, fullStop, ellipsis, emphatic, abbreviation, wide };
+
+char32_t firstOf(std::string_view word) {
+    return codePointAt(word, 0).value;
+}
+
+bool isClosing(char32_t mark) {
+    switch (mark) {
+    case '"':
+    case '\'':
+    case ')':
+    case ']':
+    case '}':
+    case 0x2019:
+    case 0x201D:
+    case 0xBB:
+    case 0x203A:
+    case 0x300D:
+    case 0x300F:
+    case 0xFF09:
+    case 0x3011:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isQuote(char32_t mark) {
+    return isClosing(mark) && mark != ')' && mark != ']' && mark != '}';
+}
+
+Ending endingOfMarks(std::string_view marks) {
+    switch (firstOf(marks)) {
+    case '.':
+        return marks.size() == 1 ? Ending::fullStop : Ending::ellipsis;
+    case 0x2026:
+        return Ending::ellipsis;
+    case '!':
+    case '?':
+    case 0x203D:
+    case 0x61F:
+    case 0x203C:
+    case 0x2047:
+    case 0x2048:
+    case 0x2049:
+    case 0x6D4:
+    case 0x964:
+    case 0x965:
+    case 0x589:
+    case 0x1362: // full stops of other scripts
+        return Ending::emphatic;
+    case 0x3002:
+    case 0xFF01:
+    case 0xFF1F:
+    case 0xFF0E:
+    case 0xFF61:
+        return Ending::wide;
+    default:
+        return Ending::none;
+    }
+}
+
+/// Walks the tokens of a paragraph once.
+class Marker {
+public:
+    Marker(std::string_view text, std::span<Token> tokens) : text_(text), tokens_(tokens) {}
+
+    void run() {
+        std::size_t visible = 0;
+        for (std::size_t i = 0; i < tokens_.size();) {
+            if (isGap(i)) {
+                if (tokens_[i].kind == TokenKind::lineBreak && !wraps()) starts_ = true;
+                ++i;
+                continue;
+            }
+            ++visible;
+            tokens_[i].startsSentence = starts_;
+            starts_ = false;
+            i = afterEnding(i);
+        }
+        if (visible == 0 && !tokens_.empty()) tokens_.front().startsSentence = true;
+    }
+
+private:
+    bool isGap(std::size_t i) const {
+        return tokens_[i].kind == TokenKind::whitespace || tokens_[i].kind == TokenKind::lineBreak;
+    }
+    std::string_view word(std::size_t i) const { return substring(text_, tokens_[i].range); }
+
+    // Only paragraphs with line breaks inside pay for a look at their lines.
+    bool wraps() {
+        if (lineBreak_ == 0) {
+            const std::size_t start = tokens_.front().range.start;
+            wrapping_ = wrappingLineBreaks(text_.substr(start, tokens_.back().range.end() - start));
+        }
+        return wrapping_[lineBreak_++];
+    }
+
+    Ending endingOf(std::size_t i) const {
+        const std::string_view token = word(i);
+        if (tokens_[i].kind == TokenKind::punctuation) return endingOfMarks(token);
+        const bool stopped = tokens_[i].kind == TokenKind::word && token.size() > 1 && token.back() == '.';
+        return stopped ? Ending::abbreviation : Ending::none;
+    }
+
+    // The token after the sentence that token `i` ends, with `starts_` set, or the token after `i`.
+    std::size_t afterEnding(std::size_t i) {
+        const Ending ending = endingOf(i);
+        if (ending == Ending::none) return i + 1;
+        bool quoted = false;
+        std::size_t next = i + 1;
+        while (next < tokens_.size() && !isGap(next) && tokens_[next].kind == TokenKind::punctuation &&
+               isClosing(firstOf(word(next))))
+            quoted = isQuote(firstOf(word(next++))) || quoted;
+        const std::size_t follower = skipGaps(next);
+        if (follower == tokens_.size()) return next;
+        const bool gap = follower > next;
+        if (gap ? endsBefore(ending, i, follower, quoted) : ending == Ending::wide) starts_ = true;
+        return next;
+    }
+
+    std::size_t skipGaps(std::size_t i) const {
+        while (i < tokens_.size() && isGap(i))
+            ++i;
+        return i;
+    }
+
+    bool endsBefore(Ending ending, std::size_t i, std::size_t follower, bool quoted) const {
+        const std::string_view next = word(follower);
+        const char32_t first = firstOf(next);
+        const bool low = isLowerCase(first);
+        switch (ending) {
+        case Ending::fullStop:
+            return !low || (i > 0 && tokens_[i - 1].range.length > 3 && !quoted);
+        case Ending::ellipsis:
+            return isUpperCase(first);
+        case Ending::emphatic:
+            return !low || !quoted;
+        case Ending::abbreviation:
+            return endsAfterAbbreviation(word(i), next);
+        default:
+            return true;
+        }
+    }
+
+    static bool endsAfterAbbreviation(std::string_view abbreviation, std::string_view next) {
+        const std::string_view stem = abbreviation.substr(0, abbreviation.size() - 1);
+        if (stem.size() == 1 || isTitleAbbreviation(stem) || !isUpperCase(firstOf(next))) return false;
+        return holds(sentenceStarters, LowerCasedWord(next).view());
+    }
+
+    std::string_view text_;
+    std::span<Token> tokens_;
+    std::vector<bool> wrapping_;
+    std::size_t lineBreak_ = 0;
+    bool starts_ = true;
+};
+
+} // namespace
+
+void markSentences(std::string_view text, std::span<Token> tokens) {
+    Marker(text, tokens).run();
+}
+
+} // namespace lexiform::linguistics

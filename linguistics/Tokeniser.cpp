@@ -1,0 +1,246 @@
+#include "linguistics/Tokeniser.h"
+
+#include "linguistics/AsciiText.h"
+#include "linguistics/EnglishWords.h"
+#include "linguistics/SpecialForms.h"
+#include "linguistics/WordScanner.h"
+
+namespace lexiform::linguistics {
+
+namespace {
+
+bool startsWord(CharacterClass kind) {
+    return kind == CharacterClass::letter || kind == CharacterClass::digit;
+}
+
+// Marks that Unicode files under punctuation, but that stand for a word or a quantity.
+bool isSymbolMark(char32_t mark) {
+    return mark == '%' || mark == '&' || mark == '#' || mark == '@' || mark == 0x2030 || mark == 0xA7;
+}
+
+TokenKind kindOfMark(const Unit& unit) {
+    return unit.kind == CharacterClass::punctuation && !isSymbolMark(unit.base) ? TokenKind::punctuation
+                                                                                : TokenKind::symbol;
+}
+
+// Brackets and currency signs are told apart even where they follow each other.
+bool mayRepeat(char32_t mark) {
+    switch (mark) {
+    case '.':
+    case ',':
+    case '-':
+    case '!':
+    case '?':
+    case '*':
+    case '=':
+    case '~':
+    case '#':
+    case '_':
+    case '+':
+    case '<':
+    case '>':
+    case '\'':
+    case '`':
+    case ':':
+    case ';':
+    case '|':
+    case '^':
+    case 0x2013:
+    case 0x2014:
+    case 0x2026:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool continuesRun(char32_t first, char32_t next) {
+    if (first == '!' || first == '?') return next == '!' || next == '?';
+    if (first == '.' || first == 0x2026) return next == '.' || next == 0x2026;
+    return next == first;
+}
+
+// "do|n't", "it|'s": where the enclitic of a word starts, or the word's length if it has none.
+std::size_t startOfEnclitic(std::string_view word) {
+    const std::size_t mark = word.find_last_of("'`\x99\xB4");
+    if (mark == std::string_view::npos) return word.size();
+    std::size_t start = mark;
+    while (start > 0 && (static_cast<unsigned char>(word[start]) & 0xC0) == 0x80)
+        --start;
+    if (start == 0) return word.size();
+    const std::size_t length = lengthOfApostrophe(word.substr(start));
+    if (length == 0) return word.size();
+    const std::string_view tail = word.substr(start + length);
+    if (tail.size() == 1 && asciiLower(tail[0]) == 't' && start > 1 && asciiLower(word[start - 1]) == 'n')
+        return start - 1;
+    return lengthOfEnclitic(word.substr(start)) == length + tail.size() ? start : word.size();
+}
+
+// "8|pm": the length of the figure, or the word's length if it is none with a unit.
+std::size_t lengthOfFigure(std::string_view word) {
+    if (!isAsciiDigit(word[0]) || !isAsciiLetter(word.back())) return word.size();
+    const std::size_t figure = word.find_first_not_of("0123456789.,:");
+    return isUnitAfterFigure(word.substr(figure)) ? figure : word.size();
+}
+
+} // namespace
+
+Tokeniser::Tokeniser() : characters_(Characters::table()) {}
+
+void Tokeniser::tokenise(std::string_view paragraph, std::size_t offset, std::vector<Token>& tokens) {
+    paragraph_ = paragraph;
+    offset_ = offset;
+    at_ = 0;
+    tokens_ = &tokens;
+    while (at_ < paragraph_.size()) {
+        const Unit next = unit(at_);
+        if (next.kind == CharacterClass::lineBreak)
+            emit(next.end, TokenKind::lineBreak);
+        else if (next.kind == CharacterClass::space)
+            takeSpaces();
+        else
+            takeChunk();
+    }
+}
+
+void Tokeniser::emit(std::size_t end, TokenKind kind) {
+    Token token;
+    token.range = {offset_ + at_, end - at_};
+    token.kind = kind;
+    tokens_->push_back(token);
+    at_ = end;
+}
+
+void Tokeniser::takeSpaces() {
+    std::size_t end = at_;
+    while (end < paragraph_.size()) {
+        const Unit next = unit(end);
+        if (next.kind == CharacterClass::mark) {
+            // A mark after a space has that space for its base.
+            std::size_t base = end - 1;
+            while ((static_cast<unsigned char>(paragraph_[base]) & 0xC0) == 0x80)
+                --base;
+            if (base > at_) emit(base, TokenKind::whitespace);
+            return emit(next.end, TokenKind::symbol);
+        }
+        if (next.kind != CharacterClass::space) break;
+        end = next.end;
+    }
+    emit(end, TokenKind::whitespace);
+}
+
+void Tokeniser::takeChunk() {
+    const std::size_t start = at_;
+    const std::size_t end = endOfChunk();
+    if (plain_) return takeWord(end);
+    while (at_ < end)
+        takePiece(start, end);
+}
+
+std::size_t Tokeniser::endOfChunk() {
+    plain_ = true;
+    hasAddressMark_ = false;
+    std::size_t end = at_;
+    while (end < paragraph_.size()) {
+        const char byte = paragraph_[end];
+        if (isAsciiLetter(byte)) {
+            ++end;
+            continue;
+        }
+        const Unit next = unit(end);
+        if (next.kind == CharacterClass::space || next.kind == CharacterClass::lineBreak) break;
+        plain_ = false;
+        end = next.end;
+        const bool stopInside = byte == '.' && end < paragraph_.size() && isAsciiAlnum(paragraph_[end]);
+        if (byte == '@' || byte == '#' || byte == ':' || stopInside) hasAddressMark_ = true;
+    }
+    return end;
+}
+
+void Tokeniser::takePiece(std::size_t chunkStart, std::size_t chunkEnd) {
+    if (takeSpecialForm(chunkStart, chunkEnd)) return;
+    const Unit next = unit(at_);
+    if (startsWord(next.kind))
+        takeWord(WordScanner(characters_, paragraph_).endOfWord(at_, chunkEnd));
+    else if (next.kind == CharacterClass::joinedLetter)
+        takeJoinedWords(chunkEnd);
+    else
+        takeUnit(next, chunkEnd);
+}
+
+bool Tokeniser::takeSpecialForm(std::size_t chunkStart, std::size_t chunkEnd) {
+    const std::string_view rest = paragraph_.substr(at_, chunkEnd - at_);
+    const bool startsChunk = at_ == chunkStart;
+    const bool afterWord = !startsChunk && isAsciiAlnum(paragraph_[at_ - 1]);
+    if (hasAddressMark_ && !afterWord && takeToken(lengthOfAddress(rest), TokenKind::word)) return true;
+    if (startsChunk || !isAsciiAlnum(rest[0])) {
+        if (takeToken(lengthOfEmoticon(rest, startsChunk), TokenKind::symbol)) return true;
+    }
+    if (lengthOfApostrophe(rest) == 0) return false;
+    if (!startsChunk && takeToken(lengthOfEnclitic(rest), TokenKind::word)) return true;
+    return takeToken(lengthOfElision(rest), TokenKind::word);
+}
+
+// Takes `length` bytes as one token unless that is none or would part a mark from its base.
+bool Tokeniser::takeToken(std::size_t length, TokenKind kind) {
+    const std::size_t end = at_ + length;
+    if (length == 0 || (end < paragraph_.size() && unit(end).kind == CharacterClass::mark)) return false;
+    emit(end, kind);
+    return true;
+}
+
+void Tokeniser::takeUnit(const Unit& next, std::size_t chunkEnd) {
+    const TokenKind kind = kindOfMark(next);
+    const bool bare = next.end == at_ + codePointAt(paragraph_, at_).length;
+    if (bare && mayRepeat(next.base)) return takeMarks(chunkEnd, kind);
+    emit(next.end, kind);
+}
+
+// "...", "?!", "--", "-->": one mark repeated is one token.
+void Tokeniser::takeMarks(std::size_t chunkEnd, TokenKind kind) {
+    const char32_t first = unit(at_).base;
+    std::size_t end = at_;
+    while (end < chunkEnd) {
+        const Unit next = unit(end);
+        if (!continuesRun(first, next.base) || next.kind == CharacterClass::other) break;
+        end = next.end;
+    }
+    const bool arrow = (first == '-' || first == '=') && end < chunkEnd && paragraph_[end] == '>';
+    emit(arrow ? unit(end).end : end, kind);
+}
+
+void Tokeniser::takeWord(std::size_t end) {
+    const std::string_view word = paragraph_.substr(at_, end - at_);
+    if (plain_) {
+        if (const std::size_t first = firstPartOfContraction(word)) emit(at_ + first, TokenKind::word);
+        return emit(end, TokenKind::word);
+    }
+    if (const std::size_t figure = lengthOfFigure(word); figure < word.size())
+        emit(at_ + figure, TokenKind::word);
+    const std::size_t start = at_;
+    const std::string_view rest = paragraph_.substr(start, end - start);
+    const std::size_t enclitic = startOfEnclitic(rest);
+    const std::string_view stem = rest.substr(0, enclitic);
+    if (const std::size_t first = firstPartOfContraction(stem))
+        emit(start + first, TokenKind::word);
+    else if (const std::size_t inner = startOfEnclitic(stem); inner < stem.size()) // "should|n't|'ve"
+        emit(start + inner, TokenKind::word);
+    emit(start + stem.size(), TokenKind::word);
+    if (enclitic < rest.size()) emit(end, TokenKind::word);
+}
+
+void Tokeniser::takeJoinedWords(std::size_t chunkEnd) {
+    std::size_t end = at_;
+    while (end < chunkEnd) {
+        const Unit next = unit(end);
+        if (next.kind != CharacterClass::joinedLetter) break;
+        end = next.end;
+    }
+    const std::size_t start = at_;
+    for (const std::size_t wordEnd : dictionary_.wordEnds(paragraph_.substr(start, end - start))) {
+        const bool insideUnit = start + wordEnd < end && unit(start + wordEnd).kind == CharacterClass::mark;
+        if (!insideUnit) emit(start + wordEnd, TokenKind::word);
+    }
+}
+
+} // namespace lexiform::linguistics
