@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/qt/panes/PaneTextEdit.h"
+#include "ports/TextPane.h"
+
+#include <QPointer>
+
+namespace lexiform::qt {
+
+/// A pane of the window as the core sees it. Once the widget is gone it holds no text and has no storage.
+class QtTextPane : public TextPane, public TextStorage {
+public:
+    explicit QtTextPane(PaneTextEdit* edit) : edit_(edit) {}
+
+    [[nodiscard]] std::string plainText() const override;
+    [[nodiscard]] TextStorage* textStorage() override;
+
+    void replace(const AttributedText& text) override;
+    void append(const AttributedText& text) override;
+
+private:
+    QPointer<PaneTextEdit> edit_;
+};
+
+} // namespace lexiform::qt

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/qt/panes/PaneTextEdit.h"
+
+namespace lexiform::qt {
+
+/// The pane into which a person types or pastes: plain text, undo and redo, a tab key that writes
+/// a tab (Ctrl+Tab moves on). A new line, typed or pasted, takes the text's own line end.
+class InputTextEdit : public PaneTextEdit {
+    Q_OBJECT
+
+public:
+    explicit InputTextEdit(QWidget* parent = nullptr);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
+};
+
+} // namespace lexiform::qt

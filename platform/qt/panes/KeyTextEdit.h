@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/qt/panes/PaneTextEdit.h"
+
+namespace lexiform::qt {
+
+/// The colour key: lines with an empty line between each two, and beside line k a swatch of class
+/// colour k. An empty line has no swatch, so that an empty key shows nothing at all.
+class KeyTextEdit : public PaneTextEdit {
+    Q_OBJECT
+
+public:
+    explicit KeyTextEdit(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace lexiform::qt
