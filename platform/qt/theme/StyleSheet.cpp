@@ -1,0 +1,71 @@
+#include "platform/qt/theme/StyleSheet.h"
+
+#include <array>
+#include <utility>
+
+namespace lexiform::qt {
+
+namespace {
+
+// Names with a leading $ stand for surfaces. No name may be the beginning of another.
+constexpr auto sheet = R"(
+QMenuBar { background: $window; color: $text; border: none; padding: 0 0 0 20px; spacing: 0; }
+QMenuBar::item { background: transparent; padding: 6px 12px; border-radius: 4px; }
+QMenuBar::item:selected { background: $hover; }
+QMenuBar::item:pressed { background: $pressed; }
+QMenuBar::item:disabled { color: $faint; }
+
+QMenu { background: $fill; color: $text; border: 1px solid $outline; padding: 5px; }
+QMenu::item { padding: 6px 28px 6px 28px; border-radius: 4px; }
+QMenu::item:selected { background: $selection; }
+QMenu::item:disabled { color: $faint; background: transparent; }
+QMenu::separator { height: 1px; background: $outline; margin: 5px 8px; }
+
+QToolBar { background: $window; border: none; padding: 4px; spacing: 0; }
+QToolBar::separator { background: $outline; width: 1px; margin: 10px 12px; }
+QToolButton { border: 2px solid transparent; border-radius: 6px; padding: 4px 10px 4px 6px;
+              background: transparent; color: $text; }
+QToolButton:hover { background: $hover; }
+QToolButton:pressed { background: $pressed; }
+QToolButton:focus { border-color: $accent; }
+QToolButton:disabled { color: $faint; background: transparent; }
+
+QStatusBar { background: $window; border: none; }
+QStatusBar::item { border: none; }
+QToolTip { background: $fill; color: $text; border: 1px solid $outline; padding: 4px 6px; }
+
+QScrollBar { background: transparent; border: none; }
+QScrollBar:vertical { width: 10px; margin: 2px; }
+QScrollBar:horizontal { height: 10px; margin: 2px; }
+QScrollBar::handle { background: $grip; border-radius: 3px; }
+QScrollBar::handle:vertical { min-height: 32px; }
+QScrollBar::handle:horizontal { min-width: 32px; }
+QScrollBar::handle:hover, QScrollBar::handle:pressed { background: $border; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+)";
+
+} // namespace
+
+QString styleSheetOf(Appearance appearance) {
+    const Surfaces& surfaces = surfacesOf(appearance);
+    const std::array<std::pair<const char*, QColor>, 11> values = {{
+        {"$window", surfaces.window},
+        {"$text", surfaces.text},
+        {"$faint", surfaces.disabledText},
+        {"$hover", surfaces.hover},
+        {"$pressed", surfaces.pressed},
+        {"$fill", surfaces.controlFill},
+        {"$selection", surfaces.selection},
+        {"$outline", surfaces.disabledBorder},
+        {"$accent", surfaces.focus},
+        {"$grip", surfaces.handle},
+        {"$border", surfaces.controlBorder},
+    }};
+    QString text = QString::fromLatin1(sheet);
+    for (const auto& [name, colour] : values)
+        text.replace(QLatin1String(name), colour.name());
+    return text;
+}
+
+} // namespace lexiform::qt

@@ -1,0 +1,68 @@
+#include "platform/qt/theme/Theme.h"
+
+#include "platform/qt/theme/Palette.h"
+#include "platform/qt/theme/StyleSheet.h"
+
+#include <QEvent>
+#include <QScopedValueRollback>
+#include <QStyleFactory>
+
+namespace lexiform::qt {
+
+namespace {
+
+constexpr int middleLightness = 128;
+
+Appearance desktopAppearance(const QPalette& palette) {
+    const bool isDark = palette.color(QPalette::Window).lightness() < middleLightness;
+    return isDark ? Appearance::dark : Appearance::light;
+}
+
+} // namespace
+
+Theme::Theme(QApplication& application, AppearanceChoice choice)
+    : application_(application), choice_(choice), desktop_(desktopAppearance(QApplication::palette())) {
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    setChoice(choice);
+    application_.installEventFilter(this);
+}
+
+void Theme::setChoice(AppearanceChoice choice) {
+    choice_ = choice;
+    switch (choice) {
+    case AppearanceChoice::system:
+        show(desktop_);
+        break;
+    case AppearanceChoice::light:
+        show(Appearance::light);
+        break;
+    case AppearanceChoice::dark:
+        show(Appearance::dark);
+        break;
+    }
+    emit choiceChanged();
+}
+
+bool Theme::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == &application_ && !dressing_)
+        followDesktop();
+    return false;
+}
+
+// The program's own palette hides the desktop's: where nobody has put another in its place, taking it
+// off for a moment is the only way to see the desktop's.
+void Theme::followDesktop() {
+    const QScopedValueRollback guard(dressing_, true);
+    if (QApplication::palette() == paletteOf(shown_)) QApplication::setPalette(QPalette());
+    desktop_ = desktopAppearance(QApplication::palette());
+    show(choice_ == AppearanceChoice::system ? desktop_ : shown_);
+}
+
+void Theme::show(Appearance appearance) {
+    const QScopedValueRollback guard(dressing_, true);
+    shown_ = appearance;
+    QApplication::setPalette(paletteOf(appearance));
+    application_.setStyleSheet(styleSheetOf(appearance));
+}
+
+} // namespace lexiform::qt
