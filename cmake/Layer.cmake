@@ -1,5 +1,5 @@
 # One call per folder: `lexiform_layer(NAME USES other layers LINKS libraries)` makes the static
-# library `lexiform_NAME` from every source in the folder. USES is the whole of what the layer may
+# library `lexiform_NAME` from every source in the folder but main.cpp, which is a program's. USES is the whole of what the layer may
 # include; tools/check_layers.py holds the includes against the same order of levels.
 
 add_library(lexiform_options INTERFACE)
@@ -20,6 +20,7 @@ endif()
 function(lexiform_layer name)
   cmake_parse_arguments(LAYER "" "" "USES;LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   list(TRANSFORM LAYER_USES PREPEND lexiform_)
   if(sources)
     add_library(lexiform_${name} STATIC ${sources})

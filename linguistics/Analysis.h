@@ -24,7 +24,7 @@ enum class NameType : std::uint8_t { none, person, place, organization };
 
 /// One token of a text. Every byte of a paragraph lies in exactly one of its tokens.
 struct Token {
-    TextRange range; ///< bytes of the analysed text
+    TextRange range{}; ///< bytes of the analysed text
     TokenKind kind = TokenKind::word;
     /// Meaningless for white space and line breaks.
     UniversalPos pos = UniversalPos::X;
@@ -35,18 +35,18 @@ struct Token {
     /// else.
     bool startsSentence = false;
     /// ISO 15924, four ASCII letters, for example "Latn"; empty where the text tells none.
-    std::string_view script;
+    std::string_view script{};
     /// BCP 47, for example "en"; empty where it cannot be told.
-    std::string_view language;
+    std::string_view language{};
     /// The dictionary form; nothing where the engine gives none. Lasts as long as the paragraph.
-    std::optional<std::string_view> lemma;
+    std::optional<std::string_view> lemma{};
 };
 
 /// A paragraph, the unit of analysis: its tokens depend on nothing outside it. The line breaks that
 /// end it belong to it, so paragraphs cover the text without gaps.
 struct Paragraph {
-    TextRange range; ///< bytes of the analysed text
-    std::vector<Token> tokens;
+    TextRange range{}; ///< bytes of the analysed text
+    std::vector<Token> tokens{};
 };
 
 } // namespace lexiform::linguistics

@@ -1,0 +1,139 @@
+#include "platform/linguistics/LinguisticTagger.h"
+
+#include "base/fatalError.h"
+#include "platform/linguistics/LexicalTags.h"
+#include "platform/linguistics/TokenUnits.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lexiform {
+
+namespace {
+
+using linguistics::Engine;
+using linguistics::Paragraph;
+using linguistics::Token;
+
+using Tag = std::optional<std::string_view>;
+
+Tag present(std::string_view value) {
+    return value.empty() ? Tag() : Tag(value);
+}
+
+Tag lexicalTag(const Token& token, std::string_view text) {
+    return nameTypeOrLexicalClass(token, text);
+}
+Tag scriptTag(const Token& token, std::string_view /*text*/) {
+    return present(token.script);
+}
+Tag languageTag(const Token& token, std::string_view /*text*/) {
+    return present(token.language);
+}
+Tag lemmaTag(const Token& token, std::string_view /*text*/) {
+    return token.lemma;
+}
+Tag noTag(const Token& /*token*/, std::string_view /*text*/) {
+    return std::nullopt;
+}
+
+/// Null for a scheme that is not known.
+TagOfToken wordTagsUnder(TagScheme scheme) {
+    if (scheme == NLTagSchemeNameTypeOrLexicalClass) return lexicalTag;
+    if (scheme == NLTagSchemeScript) return scriptTag;
+    if (scheme == NLTagSchemeLanguage) return languageTag;
+    if (scheme == NLTagSchemeLemma) return lemmaTag;
+    return nullptr;
+}
+
+/// A sentence has a script and a language, but no lexical class and no lemma.
+TagOfToken tagsUnder(TagScheme scheme, NLTokenUnit unit) {
+    const TagOfToken ofWords = wordTagsUnder(scheme);
+    if (ofWords == nullptr) fatalError("a tagger was asked for a scheme that it does not have");
+    if (unit == NLTokenUnit::word || ofWords == scriptTag || ofWords == languageTag) return ofWords;
+    return noTag;
+}
+
+/// Calls the visitor for tokens of `text`, which starts `offset` bytes into the tagger's own.
+class Visit {
+public:
+    Visit(std::string_view text, std::size_t offset, TagOfToken tagOf, const Tagger::Visitor& visitor)
+        : text_(text), offset_(offset), tagOf_(tagOf), visitor_(visitor) {}
+
+    [[nodiscard]] bool everyToken(const Paragraph& paragraph) const {
+        return std::all_of(paragraph.tokens.begin(), paragraph.tokens.end(),
+                           [this](const Token& token) { return one(token.range, tagOf_(token, text_)); });
+    }
+
+    [[nodiscard]] bool words(const Paragraph& paragraph, NLTaggerOptions options) const {
+        return all(wordsOf(paragraph, text_, tagOf_, options));
+    }
+
+    [[nodiscard]] bool sentences(const Paragraph& paragraph) const {
+        return all(sentencesOf(paragraph, text_, tagOf_));
+    }
+
+    [[nodiscard]] bool whole(const Paragraph& paragraph) const {
+        return all({wholeOf(paragraph, text_, tagOf_)});
+    }
+
+    /// The document is one token, with the tag of its first paragraph that has one.
+    void document(const Engine& engine) const {
+        std::optional<std::string> tag; // outlives the paragraph that it comes from
+        engine.analyse(text_, [&](const Paragraph& paragraph) {
+            if (const Tag found = wholeOf(paragraph, text_, tagOf_).tag) tag = *found;
+            return !tag;
+        });
+        if (!text_.empty()) (void)one({0, text_.size()}, tag);
+    }
+
+private:
+    [[nodiscard]] bool one(TextRange range, Tag tag) const {
+        return visitor_(tag, {offset_ + range.start, range.length}) == Next::proceed;
+    }
+
+    [[nodiscard]] bool all(const std::vector<TaggedUnit>& units) const {
+        return std::all_of(units.begin(), units.end(),
+                           [this](const TaggedUnit& unit) { return one(unit.range, unit.tag); });
+    }
+
+    std::string_view text_;
+    std::size_t offset_;
+    TagOfToken tagOf_;
+    const Tagger::Visitor& visitor_;
+};
+
+bool areKnown(std::span<const TagScheme> schemes) {
+    return std::all_of(schemes.begin(), schemes.end(),
+                       [](TagScheme scheme) { return wordTagsUnder(scheme) != nullptr; });
+}
+
+} // namespace
+
+LinguisticTagger::LinguisticTagger(std::shared_ptr<const Engine> engine) : engine_(std::move(engine)) {}
+
+void LinguisticTagger::setString(std::string text) {
+    text_ = std::move(text);
+}
+
+void LinguisticTagger::enumerateTags(TextRange range, NLTokenUnit unit, TagScheme scheme,
+                                     NLTaggerOptions options, const Visitor& visitor) {
+    const std::string_view text = substring(text_, range);
+    const Visit visit(text, range.start, tagsUnder(scheme, unit), visitor);
+    if (unit == NLTokenUnit::document) return visit.document(*engine_);
+    engine_->analyse(text, [&](const Paragraph& paragraph) {
+        if (unit == NLTokenUnit::paragraph) return visit.whole(paragraph);
+        if (unit == NLTokenUnit::sentence) return visit.sentences(paragraph);
+        if (options != NLTaggerOptions::none) return visit.words(paragraph, options);
+        return visit.everyToken(paragraph);
+    });
+}
+
+TaggerFactory linguisticTaggers(std::shared_ptr<const Engine> engine) {
+    return [engine = std::move(engine)](std::span<const TagScheme> schemes) -> std::unique_ptr<Tagger> {
+        if (!areKnown(schemes)) return nullptr;
+        return std::make_unique<LinguisticTagger>(engine);
+    };
+}
+
+} // namespace lexiform

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "linguistics/ModelFault.h"
+
+#include <string>
+
+namespace lexiform {
+
+/// One sentence for a person: why words of English will not be told apart.
+[[nodiscard]] std::string englishModelMessage(const linguistics::ModelFault& fault);
+
+} // namespace lexiform

@@ -1,0 +1,152 @@
+#include "platform/linguistics/LinguisticTagger.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace lexiform {
+namespace {
+
+using linguistics::Engine;
+using linguistics::ModelStore;
+
+constexpr std::array fourSchemes = {NLTagSchemeScript, NLTagSchemeLanguage, NLTagSchemeNameTypeOrLexicalClass,
+                                    NLTagSchemeLemma};
+
+std::unique_ptr<Tagger> englishTagger(const std::string& text) {
+    const auto models =
+        std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{LEXIFORM_MODELS_DIR});
+    auto tagger = linguisticTaggers(std::make_shared<const Engine>(models))(fourSchemes);
+    tagger->setString(text);
+    return tagger;
+}
+
+using Tagged = std::vector<std::pair<std::string, std::string>>;
+
+/// Every token of a range with its tag, "-" for none.
+Tagged tagsOf(const std::string& text, TextRange range, NLTokenUnit unit, TagScheme scheme,
+              NLTaggerOptions options = NLTaggerOptions::none) {
+    Tagged tagged;
+    englishTagger(text)->enumerateTags(range, unit, scheme, options,
+                                       [&](std::optional<std::string_view> tag, TextRange token) {
+                                           tagged.emplace_back(substring(text, token), tag.value_or("-"));
+                                           return Next::proceed;
+                                       });
+    return tagged;
+}
+
+Tagged wordsOf(const std::string& text, TagScheme scheme = NLTagSchemeNameTypeOrLexicalClass) {
+    return tagsOf(text, {0, text.size()}, NLTokenUnit::word, scheme);
+}
+
+TEST(LinguisticTagger, tagsWordsPunctuationAndWhiteSpace) {
+    EXPECT_EQ(wordsOf("The old cat sat on the mat.\n"), (Tagged{{"The", "Determiner"},
+                                                                {" ", "Whitespace"},
+                                                                {"old", "Adjective"},
+                                                                {" ", "Whitespace"},
+                                                                {"cat", "Noun"},
+                                                                {" ", "Whitespace"},
+                                                                {"sat", "Verb"},
+                                                                {" ", "Whitespace"},
+                                                                {"on", "Preposition"},
+                                                                {" ", "Whitespace"},
+                                                                {"the", "Determiner"},
+                                                                {" ", "Whitespace"},
+                                                                {"mat", "Noun"},
+                                                                {".", "SentenceTerminator"},
+                                                                {"\n", "ParagraphBreak"}}));
+}
+
+TEST(LinguisticTagger, givesEveryTokenATagUnderTheLexicalSchemeInEveryScript) {
+    const std::string text =
+        "She can't! 海は広い。 Ὁ λόγος 3,5 % 🌊🏳️‍🌈 \u200F שלום \x01 e\u0301";
+    std::string joined;
+    for (const auto& [token, tag] : wordsOf(text)) {
+        EXPECT_NE(tag, "-") << token;
+        joined += token;
+    }
+    EXPECT_EQ(joined, text);
+}
+
+TEST(LinguisticTagger, tagsEachWordOfANameOfTwoWords) {
+    const Tagged tagged = wordsOf("Yesterday John Smith walked home.");
+    EXPECT_EQ(tagged[2], (std::pair<std::string, std::string>{"John", "PersonalName"}));
+    EXPECT_EQ(tagged[4], (std::pair<std::string, std::string>{"Smith", "PersonalName"}));
+}
+
+TEST(LinguisticTagger, tellsTheScriptOfAWord) {
+    EXPECT_EQ(wordsOf("sea море", NLTagSchemeScript),
+              (Tagged{{"sea", "Latn"}, {" ", "Latn"}, {"море", "Cyrl"}}));
+}
+
+TEST(LinguisticTagger, givesNoTagWhereTheTextTellsNone) {
+    EXPECT_EQ(wordsOf("42", NLTagSchemeScript), (Tagged{{"42", "-"}}));
+    EXPECT_EQ(wordsOf("42", NLTagSchemeLanguage), (Tagged{{"42", "-"}}));
+}
+
+TEST(LinguisticTagger, countsRangesInTheTextsOwnBytes) {
+    const std::string text = "Ü the cat";
+    EXPECT_EQ(tagsOf(text, {3, 3}, NLTokenUnit::word, NLTagSchemeNameTypeOrLexicalClass),
+              (Tagged{{"the", "Determiner"}}));
+}
+
+TEST(LinguisticTagger, stopsWhenTheVisitorHasEnough) {
+    int visits = 0;
+    englishTagger("one two three")
+        ->enumerateTags({0, 13}, NLTokenUnit::word, NLTagSchemeNameTypeOrLexicalClass, NLTaggerOptions::none,
+                        [&](std::optional<std::string_view>, TextRange) {
+                            ++visits;
+                            return visits < 2 ? Next::proceed : Next::stop;
+                        });
+    EXPECT_EQ(visits, 2);
+}
+
+TEST(LinguisticTagger, givesSentencesParagraphsAndTheDocument) {
+    const std::string text = "It rained. We left.\n\nNobody spoke.";
+    const TextRange all{0, text.size()};
+    const auto scheme = NLTagSchemeScript;
+    EXPECT_EQ(tagsOf(text, all, NLTokenUnit::sentence, scheme),
+              (Tagged{{"It rained. ", "Latn"}, {"We left.\n\n", "Latn"}, {"Nobody spoke.", "Latn"}}));
+    EXPECT_EQ(tagsOf(text, all, NLTokenUnit::paragraph, scheme),
+              (Tagged{{"It rained. We left.\n\n", "Latn"}, {"Nobody spoke.", "Latn"}}));
+    EXPECT_EQ(tagsOf(text, all, NLTokenUnit::document, scheme), (Tagged{{text, "Latn"}}));
+}
+
+TEST(LinguisticTagger, givesUnitsOfSeveralWordsNoLexicalClass) {
+    EXPECT_EQ(tagsOf("It rained.", {0, 10}, NLTokenUnit::sentence, NLTagSchemeNameTypeOrLexicalClass),
+              (Tagged{{"It rained.", "-"}}));
+}
+
+TEST(LinguisticTagger, leavesOutWhatTheOptionsName) {
+    EXPECT_EQ(tagsOf("the cat.", {0, 8}, NLTokenUnit::word, NLTagSchemeNameTypeOrLexicalClass,
+                     NLTaggerOptions::omitWhitespace | NLTaggerOptions::omitPunctuation),
+              (Tagged{{"the", "Determiner"}, {"cat", "Noun"}}));
+}
+
+TEST(LinguisticTagger, visitsNothingInAnEmptyText) {
+    for (const auto unit :
+         {NLTokenUnit::word, NLTokenUnit::sentence, NLTokenUnit::paragraph, NLTokenUnit::document})
+        EXPECT_TRUE(tagsOf("", {0, 0}, unit, NLTagSchemeScript).empty());
+}
+
+TEST(LinguisticTaggers, areNotMadeForASchemeThatTheyDoNotKnow) {
+    const TaggerFactory make = linguisticTaggers(std::make_shared<const Engine>(
+        std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{})));
+    const std::array schemes = {NLTagSchemeScript, std::string_view("Mood")};
+    EXPECT_EQ(make(schemes), nullptr);
+}
+
+TEST(LinguisticTaggerDeathTest, stopsTheProgramForARangeOutsideTheText) {
+    EXPECT_DEATH(tagsOf("cat", {1, 9}, NLTokenUnit::word, NLTagSchemeScript), "past the end");
+}
+
+TEST(LinguisticTaggerDeathTest, stopsTheProgramForASchemeThatItDoesNotHave) {
+    EXPECT_DEATH(tagsOf("cat", {0, 3}, NLTokenUnit::word, "Mood"), "scheme");
+}
+
+} // namespace
+} // namespace lexiform

@@ -1,0 +1,100 @@
+#include "tools/lexiform-cli/ConlluWriter.h"
+
+#include "tests/tools/lexiform-cli/HandMadeText.h"
+
+#include <gtest/gtest.h>
+
+namespace lexiform::cli {
+namespace {
+
+using enum linguistics::UniversalPos;
+
+std::string written(const HandMadeText& made) {
+    ConlluWriter writer;
+    std::string out;
+    writer.startText("", out);
+    writer.paragraph(made.paragraph, made.text, out);
+    writer.endText(out);
+    return out;
+}
+
+std::string lastColumn(const std::string& row) {
+    return row.substr(row.rfind('\t') + 1);
+}
+
+/// The last column of each token.
+std::vector<std::string> lastColumns(const HandMadeText& made) {
+    std::vector<std::string> columns;
+    std::string out = written(made);
+    for (std::size_t end = 0; (end = out.find('\n')) != std::string::npos; out.erase(0, end + 1))
+        if (out.find('\t') < end) columns.push_back(lastColumn(out.substr(0, end)));
+    return columns;
+}
+
+TEST(ConlluWriter, writesSentencesWithTheirTextAndOneTokenALine) {
+    HandMadeText made;
+    made.word("Cats", NOUN, true).space(" ").word("sleep", VERB).mark(".").space(" ");
+    made.word("I", PRON, true).space(" ").word("do", AUX).word("n't", PART).mark(".");
+    EXPECT_EQ(written(made), "# newpar\n"
+                             "# sent_id = 1\n"
+                             "# text = Cats sleep.\n"
+                             "1\tCats\t_\tNOUN\tNoun\t_\t_\t_\t_\t_\n"
+                             "2\tsleep\t_\tVERB\tVerb\t_\t_\t_\t_\tSpaceAfter=No\n"
+                             "3\t.\t_\tPUNCT\tSentenceTerminator\t_\t_\t_\t_\t_\n"
+                             "\n"
+                             "# sent_id = 2\n"
+                             "# text = I don't.\n"
+                             "1\tI\t_\tPRON\tPronoun\t_\t_\t_\t_\t_\n"
+                             "2\tdo\t_\tAUX\tVerb\t_\t_\t_\t_\tSpaceAfter=No\n"
+                             "3\tn't\t_\tPART\tParticle\t_\t_\t_\t_\tSpaceAfter=No\n"
+                             "4\t.\t_\tPUNCT\tSentenceTerminator\t_\t_\t_\t_\tSpaceAfter=No\n"
+                             "\n");
+}
+
+TEST(ConlluWriter, keepsUnusualWhiteSpaceInTheLastColumn) {
+    HandMadeText made;
+    made.space("\t")
+        .word("a", X, true)
+        .space("  ")
+        .word("b", X)
+        .space("\u00A0")
+        .word("c", X)
+        .lineBreak("\r\n");
+    EXPECT_EQ(lastColumns(made), (std::vector<std::string>{"SpacesBefore=\\t|SpacesAfter=\\s\\s",
+                                                           "SpacesAfter=\\u00A0", "SpacesAfter=\\r\\n"}));
+}
+
+TEST(ConlluWriter, writesASentenceOverSeveralLinesAsOne) {
+    HandMadeText made;
+    made.word("the", DET, true).lineBreak("\n").word("sea", NOUN).lineBreak("\n").lineBreak("\n");
+    EXPECT_NE(written(made).find("# text = the sea\n"), std::string::npos);
+}
+
+TEST(ConlluWriter, writesNothingForATextOfWhiteSpace) {
+    HandMadeText made;
+    made.space("  ").lineBreak("\n");
+    EXPECT_EQ(written(made), "");
+}
+
+TEST(ConlluWriter, writesTheLemmaThatTheEngineGives) {
+    HandMadeText made;
+    made.add("mice", {.pos = NOUN, .startsSentence = true, .lemma = "mouse"});
+    EXPECT_NE(written(made).find("1\tmice\tmouse\tNOUN\t"), std::string::npos);
+}
+
+TEST(ConlluWriter, namesEachOfSeveralTextsAndNumbersTheirSentencesOn) {
+    HandMadeText made;
+    made.word("Yes", INTJ, true);
+    ConlluWriter writer;
+    std::string out;
+    for (const char* name : {"a.txt", "b.txt"}) {
+        writer.startText(name, out);
+        writer.paragraph(made.paragraph, made.text, out);
+        writer.endText(out);
+    }
+    EXPECT_EQ(out.find("# newdoc id = a.txt\n# newpar\n# sent_id = 1\n"), 0U);
+    EXPECT_NE(out.find("\n\n# newdoc id = b.txt\n# newpar\n# sent_id = 2\n"), std::string::npos);
+}
+
+} // namespace
+} // namespace lexiform::cli

@@ -1,0 +1,87 @@
+#include "tools/lexiform-cli/AnsiWriter.h"
+
+#include "analysis/ClassTable.h"
+#include "analysis/ViewController.h"
+#include "base/TextRange.h"
+#include "platform/linguistics/LexicalTags.h"
+#include "tools/lexiform-cli/blankTokens.h"
+
+#include <array>
+#include <cstddef>
+
+namespace lexiform::cli {
+
+namespace {
+
+// In the order of Colour. Shades of the 256-colour table that can be read on black and on white; the
+// text colour is the terminal's own.
+constexpr std::array<std::string_view, 10> escapes = {
+    "\x1b[38;5;245m", "\x1b[38;5;196m", "\x1b[38;5;33m",  "\x1b[38;5;34m",  "\x1b[38;5;135m",
+    "\x1b[38;5;178m", "\x1b[38;5;137m", "\x1b[38;5;205m", "\x1b[38;5;208m", "\x1b[39m"};
+constexpr std::string_view reset = "\x1b[0m";
+
+std::string_view escapeFor(Colour colour) {
+    return escapes[static_cast<std::size_t>(colour)];
+}
+
+bool isControl(unsigned char byte) {
+    return (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7F;
+}
+
+/// U+2400 and the following show the control characters of ASCII; U+2421 shows the last.
+void appendPicture(unsigned char control, std::string& out) {
+    out += "\xE2\x90";
+    out += static_cast<char>(control == 0x7F ? 0xA1 : 0x80 + control);
+}
+
+/// C1 controls are two bytes, C2 and 80 to 9F; some terminals obey them.
+bool isC1(std::string_view text, std::size_t at) {
+    return text[at] == '\xC2' && at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0;
+}
+
+void appendHarmless(std::string_view token, std::string& out) {
+    for (std::size_t at = 0; at < token.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(token[at]);
+        if (isControl(byte))
+            appendPicture(byte, out);
+        else if (isC1(token, at)) {
+            out += "\xEF\xBF\xBD"; // U+FFFD
+            ++at;
+        } else
+            out += token[at];
+    }
+}
+
+} // namespace
+
+void AnsiWriter::paragraph(const linguistics::Paragraph& paragraph, std::string_view text, std::string& out) {
+    for (const linguistics::Token& token : paragraph.tokens) {
+        // White space shows no colour, so that it needs no switch.
+        if (!isBlank(token)) switchTo(classRow(nameTypeOrLexicalClass(token, text)).colour, out);
+        appendHarmless(substring(text, token.range), out);
+    }
+}
+
+void AnsiWriter::endText(std::string& out) {
+    if (current_) out += reset;
+    current_.reset();
+}
+
+void AnsiWriter::switchTo(Colour colour, std::string& out) {
+    if (current_ == colour) return;
+    out += escapeFor(colour);
+    current_ = colour;
+}
+
+std::string ansiKey() {
+    std::string key;
+    std::string_view lines = ViewController::stdColourKeys;
+    for (const Colour colour : ViewController::stdColours) {
+        const std::string_view name = lines.substr(0, lines.find('\n'));
+        lines.remove_prefix(std::min(lines.size(), name.size() + 2));
+        key.append(key.empty() ? "" : "  ").append(escapeFor(colour)).append("\xE2\x96\xA0 ").append(name);
+    }
+    return key.append(reset).append("\n");
+}
+
+} // namespace lexiform::cli

@@ -1,0 +1,50 @@
+#include "tools/lexiform-cli/CommandLine.h"
+
+#include "tools/lexiform-cli/TokenWriter.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iterator>
+#include <sstream>
+#include <vector>
+
+namespace lexiform::cli {
+
+namespace {
+
+void describeTag(CLI::App& app, TagRequest& request) {
+    CLI::App* const command = app.add_subcommand(
+        "tag", "Writes every token of a text with its class; reads standard input when no file is named.");
+    command->add_option("--format", request.format, "How to write it: conllu (the default), tsv or ansi")
+        ->check(CLI::IsMember(std::vector<std::string>(std::begin(formatNames), std::end(formatNames))));
+    command->add_flag("--key", request.withKey, "Adds the colour key after a text in colours (ansi)");
+    command->callback([&request] {
+        if (request.withKey && request.format != "ansi")
+            throw CLI::ValidationError("--key", "goes with --format ansi alone");
+    });
+    command->add_option("FILE", request.files, "Texts in UTF-8; - is standard input");
+}
+
+Exit exitFor(const CLI::App& app, const CLI::ParseError& error) {
+    std::ostringstream message;
+    const bool isMistake = app.exit(error, message, message) != 0;
+    return {isMistake ? misused : 0, message.str()};
+}
+
+} // namespace
+
+Outcome<TagRequest, Exit> parseCommandLine(int argc, const char* const* argv, const std::string& version) {
+    CLI::App app("Lexiform on the command line: the lexical classes of a text.", "lexiform-cli");
+    app.set_version_flag("--version", "lexiform-cli " + version);
+    app.require_subcommand(1);
+    TagRequest request;
+    describeTag(app, request);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return exitFor(app, error);
+    }
+    return request;
+}
+
+} // namespace lexiform::cli
