@@ -1,6 +1,7 @@
 #include "analysis/ClassTable.h"
 
 #include "analysis/tagger/LexicalTag.h"
+#include "base/Unicode.h"
 
 #include <algorithm>
 #include <array>
@@ -41,6 +42,17 @@ const ClassRow& classRow(std::string_view tag) {
     const auto* const row = std::find_if(rows.begin(), rows.end(),
                                          [tag](const ClassRow& candidate) { return candidate.tag == tag; });
     return row == rows.end() ? anyOtherTag : *row;
+}
+
+void countInClass(std::string_view word, const ClassRow& row, ViewController& controller) {
+    switch (row.key) {
+    case Key::none:
+        return;
+    case Key::lowerCased:
+        return countWord(controller.*row.dictionary, lowerCased(word));
+    case Key::asWritten:
+        return countWord(controller.*row.dictionary, word);
+    }
 }
 
 } // namespace lexiform

@@ -24,4 +24,7 @@ struct ClassRow {
 /// no class of their own share the row of other words, white space and punctuation.
 [[nodiscard]] const ClassRow& classRow(std::string_view tag);
 
+/// Counts `word` in the dictionary of the row, in the row's form; a row that counts nothing does nothing.
+void countInClass(std::string_view word, const ClassRow& row, ViewController& controller);
+
 } // namespace lexiform

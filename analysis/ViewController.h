@@ -1,26 +1,38 @@
 #pragma once
 
 #include "analysis/OperationQueue.h"
+#include "analysis/StringList.h"
+#include "analysis/TaggedText.h"
 #include "analysis/WordDictionary.h"
-#include "analysis/tagComplex.h"
 #include "analysis/tagger/Tagger.h"
 #include "base/Colour.h"
+#include "ports/FileWriter.h"
 #include "ports/PopUpButton.h"
 #include "ports/ProgressIndicator.h"
+#include "ports/SavePanel.h"
 #include "ports/ScrollView.h"
 #include "ports/TextField.h"
 #include "ports/TextPane.h"
+#include "ports/UserDefaults.h"
 #include "ports/ViewControllerBase.h"
 #include "ports/Window.h"
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace lexiform {
+
+/// What a document window's commands ask of the desktop besides its own panes and controls.
+struct AnalysisServices {
+    std::shared_ptr<UserDefaults> defaults;
+    std::function<std::shared_ptr<SavePanel>()> makeSavePanel;
+    std::shared_ptr<FileWriter> files;
+};
 
 /// The state and the commands of one document window's analysis.
 ///
@@ -33,7 +45,7 @@ class ViewController : public ViewControllerBase,
                        public std::enable_shared_from_this<ViewController> {
 public:
     /// A controller with every field at its default; `makeTagger` gives each pass its tagger.
-    explicit ViewController(TaggerFactory makeTagger);
+    explicit ViewController(TaggerFactory makeTagger, AnalysisServices services = {});
 
     std::string inputText;
     std::int64_t totWordC = 0;
@@ -49,12 +61,12 @@ public:
     WordDictionary conjunctions;
     WordDictionary names;
 
-    std::vector<std::string> tagWords;
-    std::vector<std::string> tagScripts;
-    std::vector<std::string> tagLangs;
-    std::vector<std::string> tagTypes;
-    std::vector<std::string> tagLemmas;
-    std::vector<tagComplex> taggedText;
+    StringList tagWords;
+    StringList tagScripts;
+    StringList tagLangs;
+    StringList tagTypes;
+    StringList tagLemmas;
+    TaggedText taggedText;
     std::vector<std::string> indScripts;
     std::vector<std::string> indLangs;
     std::vector<std::string> indTypes;
@@ -90,6 +102,35 @@ public:
     /// The lexical pass on demand: it also drops the multi-scheme records and disables the pop-up.
     void parseButton();
 
+    /// The multi-scheme pass: tags the input pane's text by script, language, name type or lexical
+    /// class, and lemma, keeps a record of every token, shows the view by type and enables the pop-up.
+    /// Without a tagger, or when the schemes disagree on the number of tokens, there are no records.
+    void multiParse();
+    /// Builds the records and their indexes from the five lists of tags. Lists of unequal length give
+    /// no records and leave the indexes as they were.
+    void buildTaggedText();
+
+    /// Shows what the types pop-up has selected; does nothing while there are no records.
+    void parse2PopupAction();
+    /// Writes the records into the output pane and the matching key beside it. View 0 is coloured by
+    /// script, 1 by language, every other by type; view 4 shows lemmas and every other the words.
+    void showSchemeView(int schemeView);
+    /// Writes the values of an index, by the colours of their positions, into the key field, cut short
+    /// to five characters, and whole into the user defaults, together with the window's title.
+    void showSchemeKey(const std::vector<std::string>& index);
+
+    /// Lists the words of every class with their counts in the concordance pane; from the lemmas of
+    /// the records when there are any.
+    void listConcButton();
+    /// Rebuilds the word dictionaries from the records.
+    void recountTaggedText();
+    /// The section of one class, empty for a dictionary without words; adds its total to `totWordC`.
+    [[nodiscard]] std::string listWordDict(const WordDictionary& dictionary, std::string_view heading);
+
+    /// Asks where, and then writes the concordance pane as it is now into a text file. A failure is
+    /// told at the end of the output pane.
+    void saveConcButton();
+
     /// Puts `text` in the place of all that the input pane holds, in the default text colour.
     void setInputText(std::string_view text);
     /// Adds `text` to the end of the output pane in the default text colour, with nothing between.
@@ -99,7 +140,11 @@ public:
     void clearWordDicts();
 
 private:
+    /// The window that shows the controller's view; stops the program when there is none.
+    [[nodiscard]] Window& window() const;
+
     TaggerFactory makeTagger_;
+    AnalysisServices services_;
 };
 
 } // namespace lexiform

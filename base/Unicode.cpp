@@ -2,13 +2,17 @@
 
 #include "base/fatalError.h"
 
+#include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
+#include <unicode/normalizer2.h>
+#include <unicode/utext.h>
 #include <unicode/utf8.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <memory>
 
 namespace lexiform {
 
@@ -17,6 +21,21 @@ namespace {
 bool isAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
+
+/// The length of a text for an interface that counts in 32 bits.
+std::int32_t shortLength(std::string_view text) {
+    if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
+        fatalError("a text is too long for a Unicode operation");
+    return static_cast<std::int32_t>(text.size());
+}
+
+void require(UErrorCode status) {
+    if (U_FAILURE(status)) fatalError("a Unicode operation failed");
+}
+
+struct CloseText {
+    void operator()(UText* text) const { utext_close(text); }
+};
 
 } // namespace
 
@@ -28,14 +47,11 @@ std::string lowerCased(std::string_view text) {
             if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
         return lower;
     }
-    if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
-        fatalError("a text to lower-case is too long");
     UErrorCode status = U_ZERO_ERROR;
-    icu::StringByteSink<std::string> sink(&lower, static_cast<std::int32_t>(text.size()));
+    icu::StringByteSink<std::string> sink(&lower, shortLength(text));
     // The empty locale is the root: the mapping of no language in particular.
-    icu::CaseMap::utf8ToLower("", 0, {text.data(), static_cast<std::int32_t>(text.size())}, sink, nullptr,
-                              status);
-    if (U_FAILURE(status)) fatalError("the lower-case mapping failed");
+    icu::CaseMap::utf8ToLower("", 0, {text.data(), shortLength(text)}, sink, nullptr, status);
+    require(status);
     return lower;
 }
 
@@ -58,6 +74,36 @@ std::optional<std::size_t> firstInvalidUtf8(std::string_view bytes) {
         at = start + static_cast<std::size_t>(used);
     }
     return std::nullopt;
+}
+
+std::string composed(std::string_view text) {
+    if (isAscii(text)) return std::string(text);
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* const nfc = icu::Normalizer2::getNFCInstance(status);
+    require(status);
+    std::string result;
+    icu::StringByteSink<std::string> sink(&result, shortLength(text));
+    nfc->normalizeUTF8(0, {text.data(), shortLength(text)}, sink, nullptr, status);
+    require(status);
+    return result;
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::BreakIterator> clusters(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    const std::unique_ptr<UText, CloseText> opened(
+        utext_openUTF8(nullptr, text.data(), shortLength(text), &status));
+    require(status);
+    clusters->setText(opened.get(), status);
+    require(status);
+    std::int32_t end = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::int32_t next = clusters->next();
+        if (next == icu::BreakIterator::DONE) return text;
+        end = next;
+    }
+    return text.substr(0, static_cast<std::size_t>(end));
 }
 
 } // namespace lexiform

@@ -15,4 +15,12 @@ namespace lexiform {
 /// surrogates and values past U+10FFFF are not); nothing when all of `bytes` is.
 [[nodiscard]] std::optional<std::size_t> firstInvalidUtf8(std::string_view bytes);
 
+/// The text in normalisation form C, in which canonically equivalent texts are the same bytes.
+/// Bytes that are not UTF-8 become U+FFFD.
+[[nodiscard]] std::string composed(std::string_view text);
+
+/// The first `count` user-perceived characters (extended grapheme clusters) of a text, all of it when
+/// it has no more.
+[[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t count);
+
 } // namespace lexiform

@@ -16,6 +16,8 @@ public:
     virtual void addItems(std::span<const std::string_view> titles) = 0;
     /// Selects an item without running the button's action; positions count from 0.
     virtual void selectItem(std::size_t index) = 0;
+    /// The position of the selected item; -1 when none is.
+    [[nodiscard]] virtual int indexOfSelectedItem() const = 0;
     virtual void setEnabled(bool enabled) = 0;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 namespace lexiform {
 
@@ -17,6 +18,8 @@ public:
 
     /// The window keeps no delegate alive.
     virtual void setDelegate(std::weak_ptr<WindowDelegate> delegate) = 0;
+    /// The title as it is shown; empty for a window without one.
+    [[nodiscard]] virtual std::string title() const = 0;
 };
 
 } // namespace lexiform

@@ -156,7 +156,7 @@ TEST(LexicalPassDeathTest, stopsTheProgramWithoutATagger) {
 
 TEST(ParseButton, runsThePassThenDropsTheRecordsAndDisablesThePopUp) {
     const WindowUnderTest window{"The cat sat.", catTags};
-    window.controller->taggedText.resize(4);
+    window.controller->taggedText.push_back({});
     window.popup->enabled = true;
     window.controller->parseButton();
     expectTheCatSat(window);

@@ -28,10 +28,12 @@ TEST(FreshController, hasTenEmptyWordDictionariesAndNoWordsInTotal) {
 
 TEST(FreshController, hasEveryListEmpty) {
     const auto controller = freshController();
-    for (const std::vector<std::string>* list :
-         {&controller->tagWords, &controller->tagScripts, &controller->tagLangs, &controller->tagTypes,
-          &controller->tagLemmas, &controller->indScripts, &controller->indLangs, &controller->indTypes})
+    for (const StringList* list : {&controller->tagWords, &controller->tagScripts, &controller->tagLangs,
+                                   &controller->tagTypes, &controller->tagLemmas})
         EXPECT_TRUE(list->empty());
+    for (const std::vector<std::string>* index :
+         {&controller->indScripts, &controller->indLangs, &controller->indTypes})
+        EXPECT_TRUE(index->empty());
     EXPECT_TRUE(controller->taggedText.empty());
 }
 

@@ -54,5 +54,20 @@ TEST(Utf8Check, refusesOverlongFormsSurrogatesAndValuesPastTheLast) {
     EXPECT_EQ(firstInvalidUtf8("\xF4\x90\x80\x80"), 0U);
 }
 
+TEST(Composition, makesCanonicallyEquivalentTextsTheSame) {
+    EXPECT_EQ(composed("plain"), "plain");
+    EXPECT_EQ(composed("cafe\u0301"), "caf\u00E9");
+    EXPECT_EQ(composed("\u212B"), "\u00C5");
+    EXPECT_EQ(composed("q\u0307\u0323"), "q\u0323\u0307");
+}
+
+TEST(FirstCharacters, areCountedAsAPersonCountsThem) {
+    EXPECT_EQ(firstCharacters("PersonalName", 5), "Perso");
+    EXPECT_EQ(firstCharacters("Latn", 5), "Latn");
+    EXPECT_EQ(firstCharacters("", 5), "");
+    EXPECT_EQ(firstCharacters("e\u0301a", 1), "e\u0301");
+    EXPECT_EQ(firstCharacters("👩‍👩‍👧🇩🇪!", 2), "👩‍👩‍👧🇩🇪");
+}
+
 } // namespace
 } // namespace lexiform

@@ -1,15 +1,21 @@
 #pragma once
 
 #include "base/AttributedText.h"
+#include "ports/FileWriter.h"
 #include "ports/PopUpButton.h"
 #include "ports/ProgressIndicator.h"
+#include "ports/SavePanel.h"
 #include "ports/TextField.h"
 #include "ports/TextPane.h"
+#include "ports/UserDefaults.h"
 #include "ports/View.h"
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lexiform {
@@ -52,6 +58,7 @@ public:
         items.insert(items.end(), titles.begin(), titles.end());
     }
     void selectItem(std::size_t index) override { selected = static_cast<int>(index); }
+    [[nodiscard]] int indexOfSelectedItem() const override { return selected; }
     void setEnabled(bool isEnabled) override { enabled = isEnabled; }
 
     std::vector<std::string> items;
@@ -69,8 +76,10 @@ public:
 class PlainWindow : public Window {
 public:
     void setDelegate(std::weak_ptr<WindowDelegate> newDelegate) override { delegate = newDelegate; }
+    [[nodiscard]] std::string title() const override { return ownTitle; }
 
     std::weak_ptr<WindowDelegate> delegate;
+    std::string ownTitle = "harbour.txt";
 };
 
 /// A view that is in a window unless told otherwise.
@@ -80,6 +89,65 @@ public:
 
     PlainWindow ownWindow;
     bool inWindow = true;
+};
+
+class PlainUserDefaults : public UserDefaults {
+public:
+    [[nodiscard]] std::optional<std::string> stringForKey(std::string_view key) const override {
+        const auto entry = strings.find(key);
+        return entry == strings.end() ? std::nullopt : std::optional(entry->second);
+    }
+    void setString(std::string_view value, std::string_view key) override {
+        strings.insert_or_assign(std::string(key), std::string(value));
+    }
+
+    std::map<std::string, std::string, std::less<>> strings;
+};
+
+/// A save panel that a test closes.
+class PlainSavePanel : public SavePanel {
+public:
+    void setCanCreateDirectories(bool allowed) override { canCreateDirectories = allowed; }
+    void setAllowedFileTypes(std::span<const std::string_view> extensions) override {
+        allowedFileTypes.assign(extensions.begin(), extensions.end());
+    }
+    void setNameFieldStringValue(const std::string& value) override { name = value; }
+    void begin(std::function<void(Response)> newCompletion) override {
+        completion = std::move(newCompletion);
+    }
+    [[nodiscard]] std::optional<std::string> url() const override { return chosen; }
+
+    /// The person chooses `path` and confirms, or cancels.
+    void confirm(std::optional<std::string> path) {
+        chosen = std::move(path);
+        close(Response::ok);
+    }
+    void cancel() { close(Response::cancel); }
+
+    bool canCreateDirectories = false;
+    std::vector<std::string> allowedFileTypes;
+    std::string name;
+    std::function<void(Response)> completion;
+    std::optional<std::string> chosen;
+
+private:
+    void close(Response response) {
+        const auto answered = std::exchange(completion, nullptr);
+        answered(response);
+    }
+};
+
+/// Files in memory. It can be told to fail.
+class PlainFileWriter : public FileWriter {
+public:
+    Outcome<Done, WriteFault> write(const std::string& path, std::string_view bytes) override {
+        if (failure) return WriteFault{*failure};
+        files.insert_or_assign(path, std::string(bytes));
+        return Done{};
+    }
+
+    std::optional<std::string> failure;
+    std::map<std::string, std::string> files;
 };
 
 } // namespace lexiform

@@ -1,0 +1,77 @@
+#include "analysis/ViewController.h"
+#include "analysis/collectTags.h"
+#include "analysis/distinctValues.h"
+#include "base/present.h"
+
+#include <algorithm>
+
+namespace lexiform {
+
+namespace {
+
+/// The view that the pass ends with; it looks like the view by type that the pop-up chooses.
+constexpr int passView = 3;
+
+constexpr std::array fourSchemes = {NLTagSchemeScript, NLTagSchemeLanguage, NLTagSchemeNameTypeOrLexicalClass,
+                                    NLTagSchemeLemma};
+
+void enumerateWords(Tagger& tagger, std::string_view text, TagScheme scheme, const Tagger::Visitor& visitor) {
+    tagger.enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, NLTaggerOptions::none, visitor);
+}
+
+Tagger::Visitor collectInto(StringList& target, std::string_view fallback) {
+    return [&target, fallback](std::optional<std::string_view> tag, TextRange) {
+        return collectTag(tag, target, fallback);
+    };
+}
+
+void collectAll(Tagger& tagger, const std::string& text, ViewController& controller) {
+    tagger.setString(text);
+    enumerateWords(tagger, text, NLTagSchemeScript,
+                   [&](std::optional<std::string_view> tag, TextRange token) {
+                       return collectWordAndScript(tag, token, text, controller);
+                   });
+    enumerateWords(tagger, text, NLTagSchemeLanguage, collectInto(controller.tagLangs, noTagValue));
+    enumerateWords(tagger, text, NLTagSchemeNameTypeOrLexicalClass,
+                   collectInto(controller.tagTypes, noTagValue));
+    enumerateWords(tagger, text, NLTagSchemeLemma, collectInto(controller.tagLemmas, noLemmaValue));
+}
+
+/// The position of a value in its index, by a search from the start: an index holds a few values.
+std::int64_t positionIn(const std::vector<std::string>& index, const std::string& value) {
+    const auto found = std::find(index.begin(), index.end(), value);
+    return found == index.end() ? 0 : found - index.begin();
+}
+
+} // namespace
+
+void ViewController::multiParse() {
+    const std::string text = present(intextTextbox).plainText();
+    for (StringList* list : {&tagLangs, &tagTypes, &tagWords, &tagLemmas, &tagScripts})
+        list->clear();
+    if (const std::unique_ptr<Tagger> tagger = makeTagger_(fourSchemes)) collectAll(*tagger, text, *this);
+    buildTaggedText();
+    showSchemeView(passView);
+    present(typesPopup)->setEnabled(true);
+}
+
+void ViewController::buildTaggedText() {
+    taggedText.clear();
+    const std::size_t count = tagWords.size();
+    if (count == 0) return;
+    // The schemes disagree on the tokens: no record can be made, and the indexes stay as they were.
+    for (const StringList* list : {&tagScripts, &tagLangs, &tagTypes, &tagLemmas})
+        if (list->size() != count) return;
+
+    indScripts = distinctValues(tagScripts);
+    indLangs = distinctValues(tagLangs);
+    indTypes = distinctValues(tagTypes);
+    for (std::size_t i = 0; i < count; ++i)
+        taggedText.push_back({.word = tagWords[i],
+                              .script = positionIn(indScripts, tagScripts[i]),
+                              .lang = positionIn(indLangs, tagLangs[i]),
+                              .type = positionIn(indTypes, tagTypes[i]),
+                              .lemma = tagLemmas[i]});
+}
+
+} // namespace lexiform

@@ -1,0 +1,89 @@
+#include "analysis/ClassTable.h"
+#include "analysis/ViewController.h"
+#include "analysis/collectTags.h"
+#include "analysis/putPaneText.h"
+#include "analysis/sortedLines.h"
+#include "base/Unicode.h"
+#include "base/checkedSum.h"
+#include "base/fatalError.h"
+
+namespace lexiform {
+
+namespace {
+
+struct ListedClass {
+    WordDictionary ViewController::*dictionary;
+    std::string_view heading;
+};
+
+// The order of the report, which is not that of the colour key.
+constexpr std::array<ListedClass, 10> listedClasses = {{
+    {&ViewController::verbs, "Verbs"},
+    {&ViewController::nouns, "Nouns"},
+    {&ViewController::adjectives, "Adjectives"},
+    {&ViewController::adverbs, "Adverbs"},
+    {&ViewController::pronouns, "Pronouns"},
+    {&ViewController::determiners, "Determiners"},
+    {&ViewController::particles, "Particles"},
+    {&ViewController::prepositions, "Prepositions"},
+    {&ViewController::conjunctions, "Conjunctions"},
+    {&ViewController::names, "Names"},
+}};
+
+/// The lemma of a record, or its word where it has none.
+const std::string& keyOf(const TaggedText& records, std::size_t i) {
+    const std::string* const lemma = records.lemma(i);
+    if (lemma == nullptr) fatalError("a record has no lemma");
+    if (*lemma != noLemmaValue) return *lemma;
+    const std::string* const word = records.word(i);
+    if (word == nullptr) fatalError("a record has neither lemma nor word");
+    return *word;
+}
+
+const std::string& tagOf(const TaggedText& records, std::size_t i, const std::vector<std::string>& indTypes) {
+    const std::int64_t position = records.type(i);
+    if (position < 0 || static_cast<std::size_t>(position) >= indTypes.size())
+        fatalError("the type of a record lies outside its index");
+    return indTypes[static_cast<std::size_t>(position)];
+}
+
+} // namespace
+
+void ViewController::listConcButton() {
+    if (!taggedText.empty()) recountTaggedText();
+    std::string report;
+    for (const ListedClass& listed : listedClasses)
+        report += listWordDict(this->*listed.dictionary, listed.heading);
+    // The total grows with every listing until the next lexical pass sets it back.
+    report += "\nTotal words classified = " + std::to_string(totWordC) + "\n";
+    putPaneText(report, concordTextbox, PaneOperation::replace);
+}
+
+void ViewController::recountTaggedText() {
+    clearWordDicts();
+    for (std::size_t i = 0; i < taggedText.size(); ++i) {
+        const std::string& key = keyOf(taggedText, i);
+        countInClass(key, classRow(tagOf(taggedText, i, indTypes)), *this);
+    }
+}
+
+std::string ViewController::listWordDict(const WordDictionary& dictionary, std::string_view heading) {
+    if (dictionary.empty()) return "";
+    std::vector<std::string> lines;
+    lines.reserve(dictionary.size());
+    std::int64_t classSum = 0;
+    for (const auto& [word, count] : dictionary) {
+        lines.push_back(word + " (" + std::to_string(count) + ")\n");
+        classSum = checkedSum(classSum, count);
+    }
+
+    std::string section = "\n";
+    section.append(heading).append(":\n");
+    for (const std::string& line : sortedLines(std::move(lines)))
+        section += line;
+    section.append("\nTotal ").append(heading).append(" = ").append(std::to_string(classSum)).append("\n");
+    totWordC = checkedSum(totWordC, classSum);
+    return section;
+}
+
+} // namespace lexiform
