@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/StringPool.h"
+#include "base/StringPool.h"
 
 #include <cstddef>
 #include <initializer_list>

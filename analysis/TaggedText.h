@@ -1,7 +1,7 @@
 #pragma once
 
-#include "analysis/StringPool.h"
 #include "analysis/tagComplex.h"
+#include "base/StringPool.h"
 
 #include <cstddef>
 #include <cstdint>

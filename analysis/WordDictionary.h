@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstddef>
+#include "base/StringHash.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -9,17 +10,9 @@
 
 namespace lexiform {
 
-/// Lets a word be looked up without making a string of it.
-struct WordHash {
-    using is_transparent = void;
-    [[nodiscard]] std::size_t operator()(std::string_view word) const {
-        return std::hash<std::string_view>{}(word);
-    }
-};
-
 /// Words, compared exactly and case-sensitively, with how often each occurs (at least once). The
 /// order of iteration means nothing.
-using WordDictionary = std::unordered_map<std::string, std::int64_t, WordHash, std::equal_to<>>;
+using WordDictionary = std::unordered_map<std::string, std::int64_t, StringHash, std::equal_to<>>;
 
 /// Counts one occurrence of `word`, which enters the dictionary with 1 when it is not in it. A count
 /// past the largest signed 64-bit value stops the program.

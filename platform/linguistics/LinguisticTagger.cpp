@@ -1,8 +1,8 @@
 #include "platform/linguistics/LinguisticTagger.h"
 
 #include "base/fatalError.h"
-#include "platform/linguistics/LexicalTags.h"
 #include "platform/linguistics/TokenUnits.h"
+#include "platform/linguistics/wordTags.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,41 +17,16 @@ using linguistics::Token;
 
 using Tag = std::optional<std::string_view>;
 
-Tag present(std::string_view value) {
-    return value.empty() ? Tag() : Tag(value);
-}
-
-Tag lexicalTag(const Token& token, std::string_view text) {
-    return nameTypeOrLexicalClass(token, text);
-}
-Tag scriptTag(const Token& token, std::string_view /*text*/) {
-    return present(token.script);
-}
-Tag languageTag(const Token& token, std::string_view /*text*/) {
-    return present(token.language);
-}
-Tag lemmaTag(const Token& token, std::string_view /*text*/) {
-    return token.lemma;
-}
 Tag noTag(const Token& /*token*/, std::string_view /*text*/) {
     return std::nullopt;
-}
-
-/// Null for a scheme that is not known.
-TagOfToken wordTagsUnder(TagScheme scheme) {
-    if (scheme == NLTagSchemeNameTypeOrLexicalClass) return lexicalTag;
-    if (scheme == NLTagSchemeScript) return scriptTag;
-    if (scheme == NLTagSchemeLanguage) return languageTag;
-    if (scheme == NLTagSchemeLemma) return lemmaTag;
-    return nullptr;
 }
 
 /// A sentence has a script and a language, but no lexical class and no lemma.
 TagOfToken tagsUnder(TagScheme scheme, NLTokenUnit unit) {
     const TagOfToken ofWords = wordTagsUnder(scheme);
     if (ofWords == nullptr) fatalError("a tagger was asked for a scheme that it does not have");
-    if (unit == NLTokenUnit::word || ofWords == scriptTag || ofWords == languageTag) return ofWords;
-    return noTag;
+    const bool suitsAnyUnit = scheme == NLTagSchemeScript || scheme == NLTagSchemeLanguage;
+    return unit == NLTokenUnit::word || suitsAnyUnit ? ofWords : noTag;
 }
 
 /// Calls the visitor for tokens of `text`, which starts `offset` bytes into the tagger's own.
@@ -110,29 +85,35 @@ bool areKnown(std::span<const TagScheme> schemes) {
 
 } // namespace
 
-LinguisticTagger::LinguisticTagger(std::shared_ptr<const Engine> engine) : engine_(std::move(engine)) {}
+LinguisticTagger::LinguisticTagger(std::shared_ptr<const Engine> engine, std::span<const TagScheme> schemes)
+    : engine_(std::move(engine)), keepsAnalysis_(schemes.size() > 1) {}
 
 void LinguisticTagger::setString(std::string text) {
     text_ = std::move(text);
+    words_.reset();
 }
 
 void LinguisticTagger::enumerateTags(TextRange range, NLTokenUnit unit, TagScheme scheme,
                                      NLTaggerOptions options, const Visitor& visitor) {
     const std::string_view text = substring(text_, range);
     const Visit visit(text, range.start, tagsUnder(scheme, unit), visitor);
+    const bool everyWord = unit == NLTokenUnit::word && options == NLTaggerOptions::none;
+    if (everyWord && keepsAnalysis_ && range.length == text_.size()) {
+        if (!words_) words_.emplace(text_, *engine_);
+        return words_->enumerate(scheme, visitor);
+    }
     if (unit == NLTokenUnit::document) return visit.document(*engine_);
     engine_->analyse(text, [&](const Paragraph& paragraph) {
-        if (unit == NLTokenUnit::paragraph) return visit.whole(paragraph);
-        if (unit == NLTokenUnit::sentence) return visit.sentences(paragraph);
-        if (options != NLTaggerOptions::none) return visit.words(paragraph, options);
-        return visit.everyToken(paragraph);
+        if (everyWord) return visit.everyToken(paragraph);
+        if (unit == NLTokenUnit::word) return visit.words(paragraph, options);
+        return unit == NLTokenUnit::sentence ? visit.sentences(paragraph) : visit.whole(paragraph);
     });
 }
 
 TaggerFactory linguisticTaggers(std::shared_ptr<const Engine> engine) {
     return [engine = std::move(engine)](std::span<const TagScheme> schemes) -> std::unique_ptr<Tagger> {
         if (!areKnown(schemes)) return nullptr;
-        return std::make_unique<LinguisticTagger>(engine);
+        return std::make_unique<LinguisticTagger>(engine, schemes);
     };
 }
 

@@ -2,8 +2,11 @@
 
 #include "analysis/tagger/Tagger.h"
 #include "linguistics/Engine.h"
+#include "platform/linguistics/TaggedWords.h"
 
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
 
 namespace lexiform {
@@ -11,9 +14,11 @@ namespace lexiform {
 /// A tagger over the linguistic engine. It tags under all four schemes; a language or a script that
 /// the text does not tell, and a lemma that the engine does not give, are no tag. Units other than
 /// words have a tag under the script and language schemes alone.
+///
+/// A tagger made for several schemes analyses its text once for all of them.
 class LinguisticTagger : public Tagger {
 public:
-    explicit LinguisticTagger(std::shared_ptr<const linguistics::Engine> engine);
+    LinguisticTagger(std::shared_ptr<const linguistics::Engine> engine, std::span<const TagScheme> schemes);
 
     void setString(std::string text) override;
     void enumerateTags(TextRange range, NLTokenUnit unit, TagScheme scheme, NLTaggerOptions options,
@@ -21,7 +26,9 @@ public:
 
 private:
     std::shared_ptr<const linguistics::Engine> engine_;
+    bool keepsAnalysis_;
     std::string text_;
+    std::optional<TaggedWords> words_;
 };
 
 /// Makes linguistic taggers that share `engine`; null for a list with a scheme that is not one of

@@ -94,6 +94,40 @@ TEST(LinguisticTagger, countsRangesInTheTextsOwnBytes) {
               (Tagged{{"the", "Determiner"}}));
 }
 
+TEST(LinguisticTagger, saysTheSameWhetherItWasMadeForOneSchemeOrForAll) {
+    const std::string text = "Ada can't swim.\n\n42 море 海 🌊\n";
+    const auto models =
+        std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{LEXIFORM_MODELS_DIR});
+    const TaggerFactory make = linguisticTaggers(std::make_shared<const Engine>(models));
+    for (const TagScheme scheme : fourSchemes) {
+        const std::unique_ptr<Tagger> alone = make(std::array{scheme});
+        alone->setString(text);
+        Tagged tagged;
+        alone->enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, NLTaggerOptions::none,
+                             [&](std::optional<std::string_view> tag, TextRange token) {
+                                 tagged.emplace_back(substring(text, token), tag.value_or("-"));
+                                 return Next::proceed;
+                             });
+        EXPECT_EQ(tagged, wordsOf(text, scheme)) << scheme;
+    }
+}
+
+TEST(LinguisticTagger, forgetsTheTextBeforeWhenItIsGivenAnother) {
+    const std::unique_ptr<Tagger> tagger = englishTagger("one two");
+    const auto words = [&](std::size_t length) {
+        int count = 0;
+        tagger->enumerateTags({0, length}, NLTokenUnit::word, NLTagSchemeScript, NLTaggerOptions::none,
+                              [&](std::optional<std::string_view>, TextRange) {
+                                  ++count;
+                                  return Next::proceed;
+                              });
+        return count;
+    };
+    EXPECT_EQ(words(7), 3);
+    tagger->setString("one two three");
+    EXPECT_EQ(words(13), 5);
+}
+
 TEST(LinguisticTagger, stopsWhenTheVisitorHasEnough) {
     int visits = 0;
     englishTagger("one two three")

@@ -1,4 +1,4 @@
-#include "analysis/StringPool.h"
+#include "base/StringPool.h"
 
 #include "base/fatalError.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/WordDictionary.h"
+#include "base/StringHash.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,8 +11,8 @@
 
 namespace lexiform {
 
-/// Keeps each distinct string once and gives it a number: a text has a hundred times fewer distinct
-/// words than tokens.
+/// Keeps each distinct string once and gives it a number: a long text has a hundred times fewer
+/// distinct words than tokens.
 class StringPool {
 public:
     using Number = std::uint32_t;
@@ -33,7 +33,7 @@ public:
     void clear();
 
 private:
-    std::unordered_map<std::string, Number, WordHash, std::equal_to<>> numbers_;
+    std::unordered_map<std::string, Number, StringHash, std::equal_to<>> numbers_;
     std::vector<const std::string*> strings_; // the keys of numbers_, which stay where they are
 };
 
