@@ -30,6 +30,13 @@ void PaneDocumentLayout::setFormatsQuietly(const QTextBlock& block,
     quiet_ = false;
 }
 
+// The editor cuts off what it paints where the widest line's document margin begins, which may be
+// left of where our lines end. For scrolling, the width stays what it is.
+QSizeF PaneDocumentLayout::documentSize() const {
+    const QSizeF size = QPlainTextDocumentLayout::documentSize();
+    return painting_ ? QSizeF(QWIDGETSIZE_MAX, size.height()) : size;
+}
+
 QRectF PaneDocumentLayout::blockBoundingRect(const QTextBlock& block) const {
     if (block.isValid() && preparation_) preparation_(block);
     QRectF rect = QPlainTextDocumentLayout::blockBoundingRect(block);
@@ -42,16 +49,18 @@ void PaneDocumentLayout::documentChanged(int from, int removed, int added) {
     if (!quiet_) QPlainTextDocumentLayout::documentChanged(from, removed, added);
 }
 
-// Half of what a line lacks to the pitch goes above it and half below. The editor leaves the document
-// margin above the first block whatever that is, so its lines start as much higher as the top margin
-// is smaller.
+// What a line lacks to the pitch is left free below it. Above the first block the editor leaves the
+// document margin, so that its lines start as much higher as the top margin is smaller. A paragraph that
+// begins from right to left keeps to the right.
 qreal PaneDocumentLayout::spaceLines(const QTextBlock& block) const {
     const QTextLayout& layout = *block.layout();
     qreal y = block.position() == 0 ? margins_.top() - document()->documentMargin() : 0;
+    const bool rightToLeft = block.textDirection() == Qt::RightToLeft;
     for (int i = 0; i < layout.lineCount(); ++i) {
         QTextLine line = layout.lineAt(i);
         const qreal slot = std::max(pitch_, line.height());
-        line.setPosition({qreal(margins_.left()), y + (slot - line.height()) / 2});
+        const qreal indent = rightToLeft ? std::max(0.0, line.width() - line.naturalTextWidth()) : 0;
+        line.setPosition({margins_.left() + indent, y});
         y += slot;
     }
     return block.next().isValid() ? y : y + margins_.bottom();

@@ -24,6 +24,10 @@ public:
     /// Sets the formats of a block without the news of a change to the document.
     void setFormatsQuietly(const QTextBlock& block, const QList<QTextLayout::FormatRange>& formats);
 
+    /// To be set while the pane paints.
+    void setPainting(bool painting) { painting_ = painting; }
+
+    [[nodiscard]] QSizeF documentSize() const override;
     /// Where the block's lines stand counts from the rectangle's top. The first block's lines begin
     /// above it: see `spaceLines`.
     [[nodiscard]] QRectF blockBoundingRect(const QTextBlock& block) const override;
@@ -38,6 +42,7 @@ private:
     qreal pitch_ = 0;
     BlockPreparation preparation_;
     bool quiet_ = false;
+    bool painting_ = false;
 };
 
 } // namespace lexiform::qt

@@ -6,7 +6,6 @@
 #include <QFontMetricsF>
 
 #include <algorithm>
-#include <cmath>
 
 namespace lexiform::qt {
 
@@ -23,11 +22,8 @@ QFont paneFont() {
     return font;
 }
 
-// In whole percents of the font's height, which is how a rich text of this look would state it.
 qreal linePitch(const QFont& font) {
-    const qreal height = QFontMetricsF(font).height();
-    const qreal percent = std::max(100.0, std::round(145.0 * QFontInfo(font).pixelSize() / height));
-    return height * percent / 100.0;
+    return std::max(1.45 * QFontInfo(font).pixelSize(), QFontMetricsF(font).height());
 }
 
 } // namespace lexiform::qt

@@ -49,8 +49,9 @@ void PaneTextEdit::replaceText(const AttributedText& text) {
     document()->clear();
     ownLineEnd_ = commonestLineEnd(blocks);
     prepareReplacement(text, blocks);
-    enter(blocks);
+    insertBlocks(cursor, blocks, ownLineEnd_);
     cursor.endEditBlock();
+    moveCursor(QTextCursor::Start);
     document()->setUndoRedoEnabled(undoable);
     document()->setModified(false);
     verticalScrollBar()->setValue(0);
@@ -59,26 +60,27 @@ void PaneTextEdit::replaceText(const AttributedText& text) {
 void PaneTextEdit::appendText(const AttributedText& text) {
     const TextBlocks blocks = cutIntoBlocks(text.string(), document()->lastBlock().length() - 1);
     const bool undoable = document()->isUndoRedoEnabled();
+    const int anchor = textCursor().anchor();
+    const int position = textCursor().position();
+    const int scrolled = verticalScrollBar()->value();
     document()->setUndoRedoEnabled(false);
     prepareAddition(text, blocks);
-    enter(blocks);
-    document()->setUndoRedoEnabled(undoable);
-    document()->setModified(false);
-}
-
-void PaneTextEdit::enter(const TextBlocks& blocks) {
-    setCaretYields(false);
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
     insertBlocks(end, blocks, ownLineEnd_);
-    setCaretYields(true);
+    select(anchor, position);
+    document()->setUndoRedoEnabled(undoable);
+    document()->setModified(false);
+    verticalScrollBar()->setValue(scrolled);
 }
 
-// A caret that stands where text enters stays in front of it unless it yields, and what is shown with it.
-void PaneTextEdit::setCaretYields(bool yields) {
-    QTextCursor caret = textCursor();
-    caret.setKeepPositionOnInsert(!yields);
-    setTextCursor(caret);
+// What stands at the end of the document moves with each insertion there.
+void PaneTextEdit::select(int anchor, int position) {
+    QTextCursor cursor = textCursor();
+    if (cursor.anchor() == anchor && cursor.position() == position) return;
+    cursor.setPosition(anchor);
+    cursor.setPosition(position, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
 }
 
 void PaneTextEdit::prepareReplacement(const AttributedText& /*text*/, const TextBlocks& /*blocks*/) {}
@@ -105,7 +107,9 @@ void PaneTextEdit::repaintFirstLines(const QRect& rect, int dy) {
 void PaneTextEdit::paintEvent(QPaintEvent* event) {
     const int below = static_cast<int>(std::ceil(document()->documentMargin()));
     QPaintEvent reachingFurther(event->rect().adjusted(0, 0, 0, below));
+    layout_->setPainting(true);
     QPlainTextEdit::paintEvent(&reachingFurther);
+    layout_->setPainting(false);
     paintCaret();
 }
 

@@ -63,8 +63,7 @@ protected:
 
 private:
     void installDocument(const QMargins& margins);
-    void enter(const TextBlocks& blocks);
-    void setCaretYields(bool yields);
+    void select(int anchor, int position);
     void paintCaret();
     void takeSpacingFromFont();
     void repaintFirstLines(const QRect& rect, int dy);

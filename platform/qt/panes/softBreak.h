@@ -14,6 +14,6 @@ constexpr qsizetype longestPiece = 4000;
 /// `longestCluster` units is cut, between two characters.
 [[nodiscard]] qsizetype softBreakIn(QStringView line, qsizetype limit);
 
-constexpr qsizetype longestCluster = 4 * longestPiece;
+constexpr qsizetype longestCluster = 2 * longestPiece;
 
 } // namespace lexiform::qt
