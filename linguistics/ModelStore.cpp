@@ -8,6 +8,10 @@ namespace lexiform::linguistics {
 
 ModelStore::ModelStore(std::vector<std::filesystem::path> folders) : folders_(std::move(folders)) {}
 
+ModelStore::ModelStore(const std::shared_ptr<const Model>& only) {
+    loaded_.emplace(only->language(), Loaded(only));
+}
+
 ModelStore::~ModelStore() = default;
 
 ModelStore::Loaded ModelStore::model(std::string_view language) const {

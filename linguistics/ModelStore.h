@@ -21,6 +21,8 @@ class Model;
 class ModelStore {
 public:
     explicit ModelStore(std::vector<std::filesystem::path> folders);
+    /// A store that holds one model and looks nowhere.
+    explicit ModelStore(const std::shared_ptr<const Model>& only);
     ~ModelStore();
     ModelStore(const ModelStore&) = delete;
     ModelStore& operator=(const ModelStore&) = delete;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/qt/panes/PaneTextEdit.h"
+#include "platform/qt/panes/SoftBreakKeeper.h"
 
 namespace lexiform::qt {
 
@@ -18,6 +19,12 @@ protected:
     void dropEvent(QDropEvent* event) override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    void typeLineEnd();
+    void stepOverSoftBreak(const QKeyEvent& event);
+
+    SoftBreakKeeper softBreaks_;
 };
 
 } // namespace lexiform::qt

@@ -10,10 +10,15 @@ class KeyTextEdit : public PaneTextEdit {
     Q_OBJECT
 
 public:
-    explicit KeyTextEdit(QWidget* parent = nullptr);
+    static constexpr QMargins keyMargins{44, 4, 8, 8};
+
+    explicit KeyTextEdit(QWidget* parent = nullptr) : PaneTextEdit(keyMargins, parent) {}
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void paintSwatch(QPainter& painter, int line, const QTextBlock& block) const;
 };
 
 } // namespace lexiform::qt

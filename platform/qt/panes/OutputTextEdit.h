@@ -1,27 +1,46 @@
 #pragma once
 
+#include "platform/qt/panes/ColourRuns.h"
 #include "platform/qt/panes/PaneTextEdit.h"
 
 #include <QColor>
+#include <QTextLayout>
 
 #include <optional>
+#include <vector>
 
 namespace lexiform::qt {
 
 /// A read-only pane that shows a text with a colour on every character. Colours follow the palette:
 /// when it turns from light to dark, so do they.
+///
+/// A block is coloured when it first comes into view, so that a long text costs no more than a short one.
 class OutputTextEdit : public PaneTextEdit {
     Q_OBJECT
 
 public:
     explicit OutputTextEdit(QWidget* parent = nullptr);
 
-    void replaceText(const AttributedText& text) override;
-    void appendText(const AttributedText& text) override;
-
     /// The colour in which the character at a position of the document is painted; nothing past the
     /// end and at the end of a block.
     [[nodiscard]] std::optional<QColor> paintedColourAt(int position) const;
+
+protected:
+    void prepareReplacement(const AttributedText& text, const TextBlocks& blocks) override;
+    void prepareAddition(const AttributedText& text, const TextBlocks& blocks) override;
+    void changeEvent(QEvent* event) override;
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+
+private:
+    void colour(const QTextBlock& block);
+    void forgetPaintedColours();
+    [[nodiscard]] QList<QTextLayout::FormatRange> formatsOf(const QTextBlock& block) const;
+    [[nodiscard]] AttributedText colouredSelection() const;
+
+    ColourRuns runs_;
+    std::size_t length_ = 0;               ///< of the whole text, in bytes
+    std::vector<std::size_t> blockStarts_; ///< the byte at which each block begins
+    std::vector<bool> coloured_;           ///< which blocks have their colours
 };
 
 } // namespace lexiform::qt

@@ -7,16 +7,18 @@
 #include <QPlainTextEdit>
 
 #include <string>
-#include <string_view>
 
 namespace lexiform::qt {
 
 class PaneDocumentLayout;
+struct TextBlocks;
 
 /// Shows a text of any length and gives back exactly the text that it was given.
 ///
 /// A pane is read-only until a subclass says otherwise; its text can be selected by mouse and keyboard.
 /// The background is transparent: the frame around the pane paints it.
+///
+/// `setPlainText`, `toPlainText` and their like change line ends and no-break spaces: nobody calls them.
 class PaneTextEdit : public QPlainTextEdit {
     Q_OBJECT
 
@@ -24,15 +26,15 @@ public:
     /// What a pane keeps free around its text, in pixels inside the frame.
     static constexpr QMargins textMargins{22, 4, 20, 22};
 
-    explicit PaneTextEdit(QWidget* parent = nullptr);
+    explicit PaneTextEdit(QWidget* parent = nullptr) : PaneTextEdit(textMargins, parent) {}
 
     /// The text as UTF-8, every character and line end as it was given or typed.
     [[nodiscard]] std::string text() const;
-    /// Puts `text` in the place of all, without its colours, and scrolls to the top. The history of
-    /// edits is forgotten and the document counts as unmodified.
-    virtual void replaceText(const AttributedText& text);
+    /// Puts `text` in the place of all and scrolls to the top. The history of edits is forgotten and
+    /// the document counts as unmodified. Colours are for subclasses: this class paints none.
+    void replaceText(const AttributedText& text);
     /// Adds `text` at the end with nothing put between; the view stays where it is.
-    virtual void appendText(const AttributedText& text);
+    void appendText(const AttributedText& text);
 
     /// What a new line typed into this text is written as: the line end that most lines of the
     /// replaced text have.
@@ -40,6 +42,11 @@ public:
 
 protected:
     PaneTextEdit(const QMargins& margins, QWidget* parent);
+
+    /// Called when `text`, cut into `blocks`, is about to enter the emptied document.
+    virtual void prepareReplacement(const AttributedText& text, const TextBlocks& blocks);
+    /// Called when `text` is about to be added; its first block goes on in the document's last.
+    virtual void prepareAddition(const AttributedText& text, const TextBlocks& blocks);
 
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -50,15 +57,19 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
-    [[nodiscard]] PaneDocumentLayout& paneLayout() const;
+    [[nodiscard]] PaneDocumentLayout& paneLayout() const { return *layout_; }
     /// The selection's characters with their own line ends.
     [[nodiscard]] QString exactSelection() const;
 
 private:
+    void installDocument(const QMargins& margins);
+    void select(int anchor, int position);
     void paintCaret();
     void takeSpacingFromFont();
+    void repaintFirstLines(const QRect& rect, int dy);
     [[nodiscard]] QPointF onNearestLine(QPointF point) const;
 
+    PaneDocumentLayout* layout_ = nullptr;
     LineEnd ownLineEnd_ = LineEnd::lf;
 };
 

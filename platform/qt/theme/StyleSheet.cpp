@@ -30,6 +30,9 @@ QToolButton:pressed { background: $pressed; }
 QToolButton:focus { border-color: $accent; }
 QToolButton:disabled { color: $faint; background: transparent; }
 
+QComboBox { combobox-popup: 0; }
+QComboBox QAbstractItemView { background: $fill; border: 1px solid $outline; padding: 5px; outline: none; }
+
 QStatusBar { background: $window; border: none; }
 QStatusBar::item { border: none; }
 QToolTip { background: $fill; color: $text; border: 1px solid $outline; padding: 4px 6px; }

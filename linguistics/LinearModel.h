@@ -1,0 +1,63 @@
+#pragma once
+
+#include "base/Outcome.h"
+#include "linguistics/LexiconEntry.h"
+#include "linguistics/ModelFormat.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace lexiform::linguistics {
+
+/// A view of the lexicon and the weights in a model file's bytes, which must outlive it.
+class LinearModel {
+public:
+    /// The model in `bytes`, aligned to 8, once every offset, count and value in them has been checked;
+    /// else what is wrong with them, in plain English.
+    [[nodiscard]] static Outcome<LinearModel, std::string> over(std::span<const std::byte> bytes);
+
+    /// The language that the model is for, BCP 47.
+    [[nodiscard]] const std::string& language() const { return language_; }
+
+    /// What the lexicon knows of the word whose normal form has this hash; an empty entry if nothing.
+    [[nodiscard]] LexiconEntry find(std::uint64_t normalHash) const;
+
+    /// Adds what `feature` weighs to the scores of all labels; `scores` holds `labelCount`.
+    template <typename Score>
+    void add(std::uint64_t feature, Score* scores) const {
+        const std::size_t bucket = bucketOf(feature, bucketStarts_.size() - 1);
+        const std::uint16_t check = checkOf(feature);
+        for (std::uint32_t i = bucketStarts_[bucket]; i < bucketStarts_[bucket + 1]; ++i)
+            if (weights_[i].check == check)
+                scores[weights_[i].label] =
+                    static_cast<Score>(scores[weights_[i].label] + weights_[i].weight);
+    }
+
+    /// What it adds to a word's scores that `previous` comes before it: one number per part of speech.
+    /// `previous` may be `universalPosCount`, the start of the sentence.
+    [[nodiscard]] const std::int16_t* posTransition(std::uint8_t ambiguity, std::size_t previous) const {
+        return posTransitions_.data() + (ambiguity * (universalPosCount + 1) + previous) * universalPosCount;
+    }
+    /// The same for name labels; the start of a sentence counts as `NameLabel::outside`.
+    [[nodiscard]] const std::int16_t* nameTransition(std::size_t previous) const {
+        return nameTransitions_.data() + previous * nameLabelCount;
+    }
+
+private:
+    LinearModel() = default;
+
+    [[nodiscard]] std::string faultInLexicon() const;
+    [[nodiscard]] std::string faultInWeights() const;
+
+    std::string language_;
+    std::span<const std::uint32_t> lexiconKeys_;
+    std::span<const LexiconEntry> lexiconEntries_;
+    std::span<const std::uint32_t> bucketStarts_;
+    std::span<const WeightRecord> weights_;
+    std::span<const std::int16_t> posTransitions_;
+    std::span<const std::int16_t> nameTransitions_;
+};
+
+} // namespace lexiform::linguistics

@@ -1,0 +1,22 @@
+#include "platform/qt/documents/readFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace lexiform::qt {
+
+Outcome<std::string, OpenFault> readFile(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.exists()) return OpenFault::missing;
+    if (info.isDir()) return OpenFault::folder;
+    // A device or a pipe may never end.
+    if (!info.isFile()) return OpenFault::notAFile;
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return OpenFault::notAllowed;
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) return OpenFault::unreadable;
+    return bytes.toStdString();
+}
+
+} // namespace lexiform::qt

@@ -1,0 +1,81 @@
+#include "linguistics/Engine.h"
+#include "platform/linguistics/LinguisticTagger.h"
+#include "platform/linguistics/ModelMessage.h"
+#include "platform/linguistics/modelFolders.h"
+#include "platform/qt/documents/DocumentController.h"
+#include "platform/qt/documents/SceneStoryboard.h"
+#include "platform/qt/documents/commandLine.h"
+#include "platform/qt/theme/ApplicationIcon.h"
+#include "platform/qt/theme/Theme.h"
+#include "platform/qt/windows/StateStore.h"
+#include "platform/qt/windows/documentScene.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+using namespace lexiform;
+
+QString stateFile() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + QStringLiteral("/state.ini");
+}
+
+QStringList chooseFiles() {
+    return QFileDialog::getOpenFileNames(QApplication::activeWindow(), QObject::tr("Open"));
+}
+
+// Without its model the program still opens and shows texts, every word in the colour of no class.
+void tellOfMissingModel(const linguistics::ModelStore& models) {
+    const auto outcome = models.check("en");
+    if (outcome.succeeded()) return;
+    auto* box = new QMessageBox(QMessageBox::Warning, QObject::tr("Lexiform"),
+                                QString::fromStdString(englishModelMessage(outcome.fault())), QMessageBox::Ok,
+                                QApplication::activeWindow());
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+int run(QApplication& application, const QStringList& files) {
+    QApplication::setDesktopFileName(QStringLiteral("lexiform"));
+    QApplication::setWindowIcon(qt::applicationIcon());
+
+    qt::StateStore store(stateFile());
+    qt::Theme theme(application, store.appearance());
+    qt::WindowList windows;
+
+    const auto models = std::make_shared<const linguistics::ModelStore>(modelFolders());
+    const TaggerFactory taggers = linguisticTaggers(std::make_shared<linguistics::Engine>(models));
+    const auto storyboard = std::make_shared<qt::SceneStoryboard>();
+    storyboard->addScene(std::string(qt::documentSceneIdentifier),
+                         [taggers, services = qt::WindowServices{theme, store, windows}] {
+                             return qt::makeDocumentScene(taggers, services);
+                         });
+
+    qt::DocumentController documents(storyboard, qt::showOpenFailures, chooseFiles);
+    if (files.isEmpty() || !documents.open(files)) documents.newDocument();
+    tellOfMissingModel(*models);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication::setApplicationName(QStringLiteral("Lexiform"));
+    QCoreApplication::setOrganizationName(QStringLiteral("lexiform"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(LEXIFORM_VERSION));
+
+    // Help and version are for a terminal, which may have no desktop.
+    if (qt::asksForText(QStringList(argv, argv + argc))) {
+        const QCoreApplication terminal(argc, argv);
+        return qt::filesToOpen(QCoreApplication::arguments()).isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+    QApplication application(argc, argv);
+    return run(application, qt::filesToOpen(QCoreApplication::arguments()));
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "base/AttributedText.h"
+
+#include <QStringView>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace lexiform::qt {
+
+/// The colours of a text without the text: one run after the other, in a third of the room.
+class ColourRuns {
+public:
+    /// Called with a stretch of one colour, counted in UTF-16 units.
+    using Visitor = std::function<void(qsizetype start, qsizetype length, Colour colour)>;
+
+    void clear();
+    /// Adds the colours of a text that is added at the end.
+    void append(const AttributedText& text);
+
+    /// Visits the colours of `text`, which starts at the byte `start` of the whole.
+    void visit(std::size_t start, QStringView text, const Visitor& visitor) const;
+
+private:
+    // Four bytes do: a document of the editor holds no more than 2^31 UTF-16 units.
+    std::vector<std::uint32_t> ends_;
+    std::vector<Colour> colours_;
+};
+
+} // namespace lexiform::qt

@@ -1,0 +1,111 @@
+#include "platform/qt/panes/InputTextEdit.h"
+
+#include "platform/qt/panes/TextBlocks.h"
+#include "platform/qt/panes/lineEndMarks.h"
+
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextBlock>
+
+namespace lexiform::qt {
+
+namespace {
+
+bool movesFocus(const QKeyEvent& event) {
+    return (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) &&
+           event.modifiers().testFlag(Qt::ControlModifier);
+}
+
+bool endsALine(const QKeyEvent& event) {
+    return event.matches(QKeySequence::InsertParagraphSeparator) ||
+           event.matches(QKeySequence::InsertLineSeparator);
+}
+
+bool walksHistory(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
+bool deletesForwards(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Delete) || event.matches(QKeySequence::DeleteEndOfWord);
+}
+
+// Pasted lines end as the lines do among which they come.
+TextBlocks withOwnLineEnds(TextBlocks blocks, LineEnd own) {
+    for (LineEnd& end : blocks.ends)
+        if (end == LineEnd::lf || end == LineEnd::crlf || end == LineEnd::cr ||
+            end == LineEnd::paragraphSeparator)
+            end = own;
+    return blocks;
+}
+
+} // namespace
+
+InputTextEdit::InputTextEdit(QWidget* parent) : PaneTextEdit(parent), softBreaks_(document()) {
+    setTextInteractionFlags(Qt::TextEditorInteraction);
+    setTabChangesFocus(false);
+    connect(document(), &QTextDocument::contentsChange, this,
+            [this](int from, int /*removed*/, int added) { softBreaks_.noteChange(from, added); });
+}
+
+void InputTextEdit::keyPressEvent(QKeyEvent* event) {
+    if (movesFocus(*event)) {
+        QWidget::focusNextPrevChild(event->key() == Qt::Key_Tab);
+        return;
+    }
+    if (walksHistory(*event)) {
+        PaneTextEdit::keyPressEvent(event);
+        softBreaks_.forgetChanges();
+        return;
+    }
+    if (endsALine(*event)) {
+        typeLineEnd();
+    } else {
+        stepOverSoftBreak(*event);
+        PaneTextEdit::keyPressEvent(event);
+    }
+    softBreaks_.mend();
+}
+
+void InputTextEdit::typeLineEnd() {
+    QTextCursor cursor = textCursor();
+    insertLineEnd(cursor);
+    setTextCursor(cursor);
+}
+
+// Deleting at a soft break takes the character beyond it, for the break itself is none.
+void InputTextEdit::stepOverSoftBreak(const QKeyEvent& event) {
+    QTextCursor cursor = textCursor();
+    if (cursor.hasSelection()) return;
+    const QTextBlock next = cursor.block().next();
+    if (event.key() == Qt::Key_Backspace && cursor.atBlockStart() && isSoftBefore(cursor.block()))
+        cursor.setPosition(cursor.position() - 1);
+    else if (deletesForwards(event) && cursor.atBlockEnd() && next.isValid() && isSoftBefore(next))
+        cursor.setPosition(next.position());
+    else
+        return;
+    setTextCursor(cursor);
+}
+
+void InputTextEdit::inputMethodEvent(QInputMethodEvent* event) {
+    PaneTextEdit::inputMethodEvent(event);
+    softBreaks_.mend();
+}
+
+void InputTextEdit::dropEvent(QDropEvent* event) {
+    PaneTextEdit::dropEvent(event);
+    softBreaks_.mend();
+}
+
+bool InputTextEdit::canInsertFromMimeData(const QMimeData* source) const {
+    return source->hasText();
+}
+
+void InputTextEdit::insertFromMimeData(const QMimeData* source) {
+    QTextCursor cursor = textCursor();
+    const std::string pasted = source->text().toStdString();
+    insertBlocks(cursor, withOwnLineEnds(cutIntoBlocks(pasted), ownLineEnd()), ownLineEnd());
+    setTextCursor(cursor);
+    softBreaks_.mend();
+}
+
+} // namespace lexiform::qt

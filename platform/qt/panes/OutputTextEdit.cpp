@@ -1,0 +1,109 @@
+#include "platform/qt/panes/OutputTextEdit.h"
+
+#include "platform/qt/panes/ColouredMimeData.h"
+#include "platform/qt/panes/PaneDocumentLayout.h"
+#include "platform/qt/panes/TextBlocks.h"
+#include "platform/qt/panes/lineEndMarks.h"
+#include "platform/qt/theme/Appearance.h"
+
+#include <QEvent>
+#include <QTextBlock>
+
+#include <algorithm>
+
+namespace lexiform::qt {
+
+OutputTextEdit::OutputTextEdit(QWidget* parent) : PaneTextEdit(parent) {
+    paneLayout().setBlockPreparation([this](const QTextBlock& block) { colour(block); });
+}
+
+void OutputTextEdit::prepareReplacement(const AttributedText& text, const TextBlocks& blocks) {
+    runs_.clear();
+    runs_.append(text);
+    length_ = text.string().size();
+    blockStarts_ = blocks.starts;
+    coloured_.assign(blockStarts_.size(), false);
+}
+
+void OutputTextEdit::prepareAddition(const AttributedText& text, const TextBlocks& blocks) {
+    if (blockStarts_.empty()) return prepareReplacement(text, blocks);
+    runs_.append(text);
+    for (std::size_t i = 1; i < blocks.starts.size(); ++i)
+        blockStarts_.push_back(length_ + blocks.starts[i]);
+    coloured_.back() = false;
+    coloured_.resize(blockStarts_.size(), false);
+    length_ += text.string().size();
+}
+
+void OutputTextEdit::changeEvent(QEvent* event) {
+    PaneTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) forgetPaintedColours();
+}
+
+void OutputTextEdit::forgetPaintedColours() {
+    QTextBlock block = document()->begin();
+    for (std::size_t i = 0; i < coloured_.size(); ++i, block = block.next())
+        if (coloured_[i]) block.layout()->clearLayout();
+    coloured_.assign(coloured_.size(), false);
+    viewport()->update();
+}
+
+void OutputTextEdit::colour(const QTextBlock& block) {
+    const auto number = static_cast<std::size_t>(block.blockNumber());
+    if (number >= coloured_.size() || coloured_[number]) return;
+    coloured_[number] = true;
+    paneLayout().setFormatsQuietly(block, formatsOf(block));
+}
+
+QList<QTextLayout::FormatRange> OutputTextEdit::formatsOf(const QTextBlock& block) const {
+    const Appearance appearance = appearanceOf(palette());
+    const QString text = block.text();
+    QList<QTextLayout::FormatRange> formats;
+    const auto add = [&](qsizetype start, qsizetype length, Colour colour) {
+        if (colour == Colour::text) return;
+        QTextLayout::FormatRange range{static_cast<int>(start), static_cast<int>(length), {}};
+        range.format.setForeground(valueOf(colour, appearance));
+        formats.push_back(range);
+    };
+    runs_.visit(blockStarts_[static_cast<std::size_t>(block.blockNumber())], text, add);
+    return formats;
+}
+
+std::optional<QColor> OutputTextEdit::paintedColourAt(int position) const {
+    const QTextBlock block = document()->findBlock(position);
+    const int at = position - block.position();
+    if (!block.isValid() || at >= block.length() - 1) return std::nullopt;
+    (void)blockBoundingRect(block);
+    for (const QTextLayout::FormatRange& range : block.layout()->formats())
+        if (range.start <= at && at < range.start + range.length) return range.format.foreground().color();
+    return palette().color(QPalette::Text);
+}
+
+QMimeData* OutputTextEdit::createMimeDataFromSelection() const {
+    return new ColouredMimeData(exactSelection(), colouredSelection());
+}
+
+// Line ends take the colour of what precedes them: nobody sees it.
+AttributedText OutputTextEdit::colouredSelection() const {
+    const QTextCursor cursor = textCursor();
+    AttributedText selection;
+    QTextBlock block = document()->findBlock(cursor.selectionStart());
+    for (bool first = true; block.isValid() && block.position() <= cursor.selectionEnd();
+         block = block.next()) {
+        if (!first)
+            selection.append(charactersOf(lineEndBefore(block, ownLineEnd())).toUtf8().toStdString(),
+                             Colour::text);
+        first = false;
+        const qsizetype from = std::max(cursor.selectionStart() - block.position(), 0);
+        const QString text = block.text().left(cursor.selectionEnd() - block.position());
+        const auto add = [&](qsizetype start, qsizetype length, Colour colour) {
+            const qsizetype begin = std::max(start, from);
+            if (begin < start + length)
+                selection.append(text.sliced(begin, start + length - begin).toStdString(), colour);
+        };
+        runs_.visit(blockStarts_[static_cast<std::size_t>(block.blockNumber())], text, add);
+    }
+    return selection;
+}
+
+} // namespace lexiform::qt

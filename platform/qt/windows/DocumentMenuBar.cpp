@@ -1,0 +1,58 @@
+#include "platform/qt/windows/DocumentMenuBar.h"
+
+#include "platform/qt/windows/AppearanceMenu.h"
+#include "platform/qt/windows/EditMenu.h"
+#include "platform/qt/windows/FullScreenAction.h"
+#include "platform/qt/windows/WindowMenu.h"
+#include "platform/qt/windows/showAbout.h"
+
+#include <QCoreApplication>
+
+namespace lexiform::qt {
+
+namespace {
+
+constexpr int barHeight = 30;
+
+} // namespace
+
+DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const WindowServices& services, QWidget* window)
+    : QMenuBar(window) {
+    setFixedHeight(barHeight);
+    addFileMenu();
+    addMenu(new EditMenu(window));
+    addTextMenu(actions);
+    addViewMenu(services);
+    addMenu(new WindowMenu(services.windows, window));
+    addHelpMenu();
+}
+
+void DocumentMenuBar::addFileMenu() {
+    QMenu* menu = addMenu(tr("&File"));
+    menu->addAction(tr("&New"), QKeySequence::New, this, &DocumentMenuBar::newRequested);
+    menu->addAction(tr("&Open…"), QKeySequence::Open, this, &DocumentMenuBar::openRequested);
+    menu->addSeparator();
+    menu->addAction(tr("&Close"), Qt::CTRL | Qt::Key_W, window(), &QWidget::close);
+    // Queued: the menu closes before its window does.
+    QAction* quit = menu->addAction(tr("&Quit"));
+    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+void DocumentMenuBar::addTextMenu(const TextActions& actions) {
+    addMenu(tr("&Text"))
+        ->addActions({actions.parse, actions.multiParse, actions.listWords, actions.saveList});
+}
+
+void DocumentMenuBar::addViewMenu(const WindowServices& services) {
+    QMenu* menu = addMenu(tr("&View"));
+    menu->addMenu(new AppearanceMenu(services.theme, services.store, this));
+    menu->addSeparator();
+    menu->addAction(new FullScreenAction(*window()));
+}
+
+void DocumentMenuBar::addHelpMenu() {
+    addMenu(tr("&Help"))->addAction(tr("&About Lexiform"), this, [this] { showAbout(*window()); });
+}
+
+} // namespace lexiform::qt

@@ -1,0 +1,51 @@
+#include "platform/qt/windows/DocumentToolBar.h"
+
+#include "platform/qt/theme/LineIcon.h"
+
+#include <QToolButton>
+
+namespace lexiform::qt {
+
+namespace {
+
+constexpr int barHeight = 44;
+constexpr int buttonHeight = 36;
+// With the bar's own padding this puts the first icon on the window's left text edge.
+constexpr int leadingInset = 16;
+
+} // namespace
+
+DocumentToolBar::DocumentToolBar(const TextActions& actions, QWidget* parent)
+    : QToolBar(tr("Tool bar"), parent), typesPopUp_(new PopUpBox(this)) {
+    setMovable(false);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setIconSize(lineIconSize);
+    setFixedHeight(barHeight);
+    typesPopUp_->setAccessibleName(tr("Show"));
+    typesPopUp_->setToolTip(tr("Choose what the colours of the output show, after a multi-parse"));
+
+    addSpacer(leadingInset);
+    addButton(actions.parse);
+    addButton(actions.multiParse);
+    addWidget(typesPopUp_);
+    addSeparator();
+    addButton(actions.listWords);
+    addButton(actions.saveList);
+}
+
+void DocumentToolBar::addSpacer(int width) {
+    auto* spacer = new QWidget(this);
+    spacer->setFixedWidth(width);
+    addWidget(spacer);
+}
+
+// A tool bar gives its buttons no focus of its own accord.
+void DocumentToolBar::addButton(QAction* action) {
+    addAction(action);
+    auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setFixedHeight(buttonHeight);
+}
+
+} // namespace lexiform::qt

@@ -1,0 +1,109 @@
+#include "platform/qt/windows/DocumentWindow.h"
+
+#include "platform/qt/windows/DocumentMenuBar.h"
+#include "platform/qt/windows/ScreenAppearance.h"
+#include "platform/qt/windows/WaitCursor.h"
+#include "platform/qt/windows/wordCount.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace lexiform::qt {
+
+namespace {
+
+constexpr QSize defaultSize{1280, 800};
+constexpr int sideMargin = 8;
+constexpr int busyGap = 6;
+
+} // namespace
+
+DocumentWindow::DocumentWindow(std::shared_ptr<ViewController> controller, const WindowServices& services)
+    : controller_(std::move(controller)), store_(services.store), actions_(makeTextActions(this)),
+      toolBar_(new DocumentToolBar(actions_, this)), busyLine_(new BusyLine(this)),
+      panes_(new DocumentPanes(this)), statusLine_(new StatusLine(this)),
+      outlets_(*controller_, *panes_, toolBar_->typesPopUp(), busyLine_) {
+    buildBars(services);
+    setCentralWidget(makeContent());
+    connectCommands();
+    restoreState();
+    panes_->input()->setFocus();
+    services.windows.add(this);
+    new ScreenAppearance(*this, [this] { runPass(&ViewController::viewDidAppear); });
+}
+
+// A window title marks the place of an asterisk with "[*]", which a file name may hold.
+void DocumentWindow::setDisplayName(const QString& name) {
+    displayName_ = name;
+    setWindowTitle(QString(name).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+}
+
+void DocumentWindow::closeEvent(QCloseEvent* event) {
+    if (!isFullScreen() && !isMaximized()) store_.setWindowSize(size());
+    QMainWindow::closeEvent(event);
+    if (event->isAccepted()) emit closed();
+}
+
+void DocumentWindow::buildBars(const WindowServices& services) {
+    auto* menus = new DocumentMenuBar(actions_, services, this);
+    connect(menus, &DocumentMenuBar::newRequested, this, &DocumentWindow::newRequested);
+    connect(menus, &DocumentMenuBar::openRequested, this, &DocumentWindow::openRequested);
+    setMenuBar(menus);
+    addToolBar(toolBar_);
+    setStatusBar(statusLine_);
+}
+
+QWidget* DocumentWindow::makeContent() {
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    constexpr int aroundLine = busyGap / 2 - 1;
+    column->setContentsMargins(sideMargin, aroundLine, sideMargin, 0);
+    column->setSpacing(aroundLine);
+    column->addWidget(busyLine_);
+    column->addWidget(panes_, 1);
+    busyLine_->hide();
+    return content;
+}
+
+void DocumentWindow::connectCommands() {
+    connectCommand(actions_.parse, &ViewController::parseButton);
+    connect(panes_->input(), &QPlainTextEdit::textChanged, this, &DocumentWindow::showUnparsed);
+    connect(panes_, &PaneSplitter::arranged, this,
+            [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
+}
+
+void DocumentWindow::connectCommand(QAction* action, Command command) {
+    connect(action, &QAction::triggered, this, [this, command] { runPass(command); });
+    action->setEnabled(true);
+}
+
+void DocumentWindow::runPass(Command command) {
+    const WaitCursor wait;
+    ((*controller_).*command)();
+    showParsed();
+}
+
+void DocumentWindow::showParsed() {
+    if (panes_->input()->document()->isEmpty())
+        statusLine_->showNothing();
+    else
+        statusLine_->showParsed(wordCount(*controller_));
+}
+
+void DocumentWindow::showUnparsed() {
+    if (panes_->input()->document()->isEmpty())
+        statusLine_->showNothing();
+    else
+        statusLine_->showUnparsed();
+}
+
+void DocumentWindow::restoreState() {
+    const QSize size = store_.windowSize();
+    resize((size.isValid() ? size : defaultSize).boundedTo(screen()->availableSize()));
+    panes_->arrange(store_.paneSizes());
+}
+
+} // namespace lexiform::qt

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "analysis/ViewController.h"
+#include "platform/qt/windows/ControlOutlets.h"
+#include "platform/qt/windows/DocumentPanes.h"
+#include "platform/qt/windows/DocumentToolBar.h"
+#include "platform/qt/windows/StatusLine.h"
+#include "platform/qt/windows/TextActions.h"
+#include "platform/qt/windows/WindowServices.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace lexiform::qt {
+
+/// The window of a document: bars, panes and status line, connected to the controller of its analysis,
+/// which it tells when it comes on screen.
+class DocumentWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// Keeps `controller` alive and connects all of its controls.
+    DocumentWindow(std::shared_ptr<ViewController> controller, const WindowServices& services);
+
+    /// The document's name is the whole title.
+    void setDisplayName(const QString& name);
+    [[nodiscard]] QString displayName() const { return displayName_; }
+
+    [[nodiscard]] const TextActions& textActions() const { return actions_; }
+    [[nodiscard]] DocumentPanes* panes() const { return panes_; }
+    [[nodiscard]] DocumentToolBar* toolBar() const { return toolBar_; }
+    [[nodiscard]] StatusLine* statusLine() const { return statusLine_; }
+
+signals:
+    void newRequested();
+    void openRequested();
+    /// The window has been closed and is about to leave the screen.
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    using Command = void (ViewController::*)();
+
+    void buildBars(const WindowServices& services);
+    [[nodiscard]] QWidget* makeContent();
+    void connectCommands();
+    void connectCommand(QAction* action, Command command);
+    void runPass(Command command);
+    void showParsed();
+    void showUnparsed();
+    void restoreState();
+
+    std::shared_ptr<ViewController> controller_;
+    StateStore& store_;
+    TextActions actions_;
+    DocumentToolBar* toolBar_;
+    BusyLine* busyLine_;
+    DocumentPanes* panes_;
+    StatusLine* statusLine_;
+    ControlOutlets outlets_;
+    QString displayName_;
+};
+
+} // namespace lexiform::qt

@@ -1,0 +1,61 @@
+#include "platform/qt/windows/StateStore.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace lexiform::qt {
+
+namespace {
+
+const QString widthKey = QStringLiteral("window/width");
+const QString heightKey = QStringLiteral("window/height");
+const QString panesKey = QStringLiteral("window/panes");
+const QString appearanceKey = QStringLiteral("appearance");
+
+// In the order of AppearanceChoice.
+constexpr std::array<const char*, 3> choiceNames = {"system", "light", "dark"};
+
+} // namespace
+
+StateStore::StateStore(const QString& path) : settings_(path, QSettings::IniFormat) {}
+
+QSize StateStore::windowSize() const {
+    // An INI file holds texts: what is no number reads as 0.
+    const QSize size(settings_.value(widthKey).toInt(), settings_.value(heightKey).toInt());
+    return size.isEmpty() ? QSize() : size;
+}
+
+void StateStore::setWindowSize(QSize size) {
+    settings_.setValue(widthKey, size.width());
+    settings_.setValue(heightKey, size.height());
+}
+
+QList<int> StateStore::paneSizes() const {
+    QList<int> sizes;
+    for (const QString& text : settings_.value(panesKey).toStringList())
+        sizes.append(text.toInt());
+    const bool sensible = std::all_of(sizes.cbegin(), sizes.cend(), [](int size) { return size > 0; });
+    return sensible ? sizes : QList<int>();
+}
+
+void StateStore::setPaneSizes(const QList<int>& sizes) {
+    QStringList texts;
+    for (const int size : sizes)
+        texts.append(QString::number(size));
+    settings_.setValue(panesKey, texts);
+}
+
+AppearanceChoice StateStore::appearance() const {
+    const QString name = settings_.value(appearanceKey).toString();
+    const auto* const found = std::find(choiceNames.begin(), choiceNames.end(), name);
+    if (found == choiceNames.end()) return AppearanceChoice::system;
+    return static_cast<AppearanceChoice>(found - choiceNames.begin());
+}
+
+void StateStore::setAppearance(AppearanceChoice choice) {
+    settings_.setValue(appearanceKey, QString::fromLatin1(choiceNames[static_cast<std::size_t>(choice)]));
+}
+
+} // namespace lexiform::qt

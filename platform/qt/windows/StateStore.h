@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/qt/theme/Theme.h"
+
+#include <QList>
+#include <QSettings>
+#include <QSize>
+#include <QString>
+
+namespace lexiform::qt {
+
+/// What the program remembers of its windows from one run to the next. It is no preference of the
+/// user's: losing it costs a new arrangement of the panes. A value that makes no sense counts as absent.
+class StateStore {
+public:
+    /// Keeps the state in the INI file at `path`, which is made on the first change.
+    explicit StateStore(const QString& path);
+
+    /// Invalid while none is remembered.
+    [[nodiscard]] QSize windowSize() const;
+    void setWindowSize(QSize size);
+
+    /// The widths of the panes in pixels, from left to right; empty while none are remembered.
+    [[nodiscard]] QList<int> paneSizes() const;
+    void setPaneSizes(const QList<int>& sizes);
+
+    [[nodiscard]] AppearanceChoice appearance() const;
+    void setAppearance(AppearanceChoice choice);
+
+private:
+    QSettings settings_;
+};
+
+} // namespace lexiform::qt

@@ -1,0 +1,43 @@
+#include "platform/qt/windows/StatusLine.h"
+
+#include <QApplication>
+#include <QLocale>
+
+namespace lexiform::qt {
+
+namespace {
+
+constexpr int lineHeight = 30;
+constexpr int leadingInset = 30; // a status bar itself adds the rest to the window's left text edge
+
+} // namespace
+
+StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent), label_(new QLabel(this)) {
+    setSizeGripEnabled(false);
+    setFixedHeight(lineHeight);
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() - 1);
+    label_->setFont(font);
+    label_->setForegroundRole(QPalette::PlaceholderText);
+    label_->setContentsMargins(leadingInset, 0, 0, 0);
+    addWidget(label_, 1);
+}
+
+void StatusLine::showParsed(std::int64_t words) {
+    if (words == 0)
+        label_->setText(tr("No words"));
+    else if (words == 1)
+        label_->setText(tr("1 word, parsed"));
+    else
+        label_->setText(tr("%1 words, parsed").arg(QLocale().toString(static_cast<qlonglong>(words))));
+}
+
+void StatusLine::showUnparsed() {
+    label_->setText(tr("Not parsed yet"));
+}
+
+void StatusLine::showNothing() {
+    label_->clear();
+}
+
+} // namespace lexiform::qt

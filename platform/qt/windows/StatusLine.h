@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLabel>
+#include <QStatusBar>
+
+#include <cstdint>
+
+namespace lexiform::qt {
+
+/// The quiet line at the foot of a document window.
+class StatusLine : public QStatusBar {
+    Q_OBJECT
+
+public:
+    explicit StatusLine(QWidget* parent = nullptr);
+
+    /// A pass has classed that many words.
+    void showParsed(std::int64_t words);
+    /// The input pane holds what no pass has seen.
+    void showUnparsed();
+    void showNothing();
+
+    [[nodiscard]] QString text() const { return label_->text(); }
+
+private:
+    QLabel* label_;
+};
+
+} // namespace lexiform::qt

@@ -1,0 +1,40 @@
+#include "platform/qt/windows/TextActions.h"
+
+#include "platform/qt/theme/LineIcon.h"
+
+#include <QCoreApplication>
+
+namespace lexiform::qt {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("TextActions", text);
+}
+
+QAction* makeAction(QObject* owner, Glyph glyph, const QString& title, const QString& toolTip) {
+    auto* action = new QAction(lineIcon(glyph), title, owner);
+    // A tool button takes its label from the icon's text: the title without its mnemonic mark.
+    action->setIconText(QString(title).remove(u'&'));
+    action->setToolTip(toolTip);
+    action->setIconVisibleInMenu(false);
+    action->setEnabled(false);
+    return action;
+}
+
+} // namespace
+
+TextActions makeTextActions(QObject* owner) {
+    const TextActions actions{
+        .parse = makeAction(owner, Glyph::parse, tr("&Parse"), tr("Colour every word by its class")),
+        .multiParse = makeAction(owner, Glyph::multiParse, tr("&Multi-parse"),
+                                 tr("Find the script, language, class and lemma of every word")),
+        .listWords = makeAction(owner, Glyph::list, tr("&List words"),
+                                tr("List the words of each class with their counts")),
+        .saveList = makeAction(owner, Glyph::save, tr("&Save list…"), tr("Save the list of words to a file")),
+    };
+    actions.parse->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_R), QKeySequence(Qt::Key_F5)});
+    return actions;
+}
+
+} // namespace lexiform::qt

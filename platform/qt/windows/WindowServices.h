@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/qt/theme/Theme.h"
+#include "platform/qt/windows/StateStore.h"
+#include "platform/qt/windows/WindowList.h"
+
+namespace lexiform::qt {
+
+/// What all windows share. Each must outlive the windows.
+struct WindowServices {
+    Theme& theme;
+    StateStore& store;
+    WindowList& windows;
+};
+
+} // namespace lexiform::qt

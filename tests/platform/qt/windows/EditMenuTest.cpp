@@ -1,0 +1,120 @@
+#include "platform/qt/windows/EditMenu.h"
+
+#include "tests/platform/qt/windows/DesktopUnderTest.h"
+
+#include <QClipboard>
+#include <QMenuBar>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace lexiform::qt {
+namespace {
+
+class EditMenuTest : public testing::Test {
+protected:
+    EditMenuTest() : window(desktop.typedInto("The cat sat.")), menu(*window.findChild<EditMenu*>()) {
+        QApplication::setActiveWindow(&window);
+        QApplication::clipboard()->clear();
+        window.textActions().parse->trigger();
+    }
+
+    void focus(QWidget* widget) {
+        widget->setFocus();
+        QApplication::processEvents();
+    }
+
+    QAction* action(const QString& title) {
+        for (QAction* each : menu.actions())
+            if (QString(each->text()).remove(u'&') == title) return each;
+        return nullptr;
+    }
+
+    // The titles of the enabled commands, in order.
+    QStringList enabled() {
+        QStringList titles;
+        for (const QAction* each : menu.actions())
+            if (each->isEnabled() && !each->isSeparator()) titles.append(QString(each->text()).remove(u'&'));
+        return titles;
+    }
+
+    DesktopUnderTest desktop;
+    DocumentWindow& window;
+    EditMenu& menu;
+};
+
+TEST_F(EditMenuTest, offersWhatTheInputPaneCanDo) {
+    focus(window.panes()->input());
+    EXPECT_EQ(enabled(), (QStringList{"Undo", "Select All"}));
+    window.panes()->input()->selectAll();
+    EXPECT_EQ(enabled(), (QStringList{"Undo", "Cut", "Copy", "Select All"}));
+}
+
+TEST_F(EditMenuTest, offersToPasteWhatTheClipboardHolds) {
+    focus(window.panes()->input());
+    QApplication::clipboard()->setText("dog");
+    EXPECT_TRUE(action("Paste")->isEnabled());
+    focus(window.panes()->output());
+    EXPECT_FALSE(action("Paste")->isEnabled());
+}
+
+TEST_F(EditMenuTest, offersOnlyToCopyFromAPaneThatCannotBeEdited) {
+    focus(window.panes()->output());
+    EXPECT_EQ(enabled(), QStringList{"Select All"});
+    window.panes()->output()->selectAll();
+    EXPECT_EQ(enabled(), (QStringList{"Copy", "Select All"}));
+}
+
+TEST_F(EditMenuTest, offersNothingForAToolButton) {
+    focus(window.panes()->input());
+    focus(window.toolBar()->widgetForAction(window.textActions().parse));
+    EXPECT_TRUE(enabled().isEmpty());
+}
+
+TEST_F(EditMenuTest, offersNothingForAnEmptyPane) {
+    focus(window.panes()->concordance());
+    EXPECT_TRUE(enabled().isEmpty());
+}
+
+TEST_F(EditMenuTest, keepsToThePaneWhileTheMenusHaveTheKeyboard) {
+    focus(window.panes()->input());
+    focus(window.menuBar());
+    EXPECT_EQ(enabled(), (QStringList{"Undo", "Select All"}));
+}
+
+TEST_F(EditMenuTest, undoesAndRedoes) {
+    focus(window.panes()->input());
+    action("Undo")->trigger();
+    EXPECT_EQ(window.panes()->input()->text(), "");
+    EXPECT_EQ(enabled(), QStringList{"Redo"});
+    action("Redo")->trigger();
+    EXPECT_EQ(window.panes()->input()->text(), "The cat sat.");
+}
+
+TEST_F(EditMenuTest, cutsCopiesAndPastes) {
+    focus(window.panes()->output());
+    action("Select All")->trigger();
+    action("Copy")->trigger();
+    focus(window.panes()->input());
+    action("Select All")->trigger();
+    action("Cut")->trigger();
+    EXPECT_EQ(window.panes()->input()->text(), "");
+    EXPECT_EQ(QApplication::clipboard()->text(), "The cat sat.");
+    action("Paste")->trigger();
+    action("Paste")->trigger();
+    EXPECT_EQ(window.panes()->input()->text(), "The cat sat.The cat sat.");
+}
+
+TEST_F(EditMenuTest, leavesTheOtherWindowsAlone) {
+    focus(window.panes()->input());
+    DocumentWindow& other = desktop.typedInto("dog");
+    QApplication::setActiveWindow(&other);
+    focus(other.panes()->input());
+    EXPECT_EQ(enabled(), (QStringList{"Undo", "Select All"}));
+    other.findChild<EditMenu*>()->actions().constFirst()->trigger();
+    EXPECT_EQ(window.panes()->input()->text(), "The cat sat.");
+    EXPECT_EQ(other.panes()->input()->text(), "");
+}
+
+} // namespace
+} // namespace lexiform::qt

@@ -1,0 +1,173 @@
+#include "tools/train/ModelTrainer.h"
+
+#include "linguistics/LinearTagger.h"
+#include "tools/train/ChainTrainer.h"
+#include "tools/train/FeatureExtractor.h"
+#include "tools/train/FeatureTable.h"
+#include "tools/train/ModelWriter.h"
+
+#include <cstdlib>
+#include <optional>
+
+namespace lexiform::train {
+
+namespace {
+
+using namespace linguistics;
+
+// A feature seen less often is not worth its place in the file.
+constexpr std::uint32_t leastCount = 2;
+
+constexpr ChainOptions posOptions{
+    .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 1};
+constexpr ChainOptions nameOptions{
+    .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 2};
+
+// How many weights each half of the model may have in the file.
+constexpr std::size_t mostPosWeights = 290000;
+constexpr std::size_t mostNameWeights = 150000;
+
+// Weights are stored as multiples of one over this.
+constexpr float scale = 24;
+
+using PosOfWords = std::vector<UniversalPos>;
+
+/// Sentences turned into numbers.
+struct Data {
+    FeatureTable table;
+    std::vector<ChainSentence> sentences;
+};
+
+template <typename Visit>
+void eachSentence(const std::vector<WeightedCorpus>& corpora, Visit visit) {
+    std::size_t number = 0;
+    for (const WeightedCorpus& corpus : corpora)
+        for (const GoldSentence& sentence : corpus.corpus)
+            visit(sentence, corpus.weight, number++);
+}
+
+template <typename LabelOf>
+ChainSentence numbered(const GoldSentence& sentence, float weight, const PosOfWords* pos,
+                       FeatureExtractor& extractor, const FeatureTable& table, LabelOf labelOf,
+                       bool byAmbiguity) {
+    ChainSentence chain;
+    chain.weight = weight;
+    extractor.extract(sentence, pos, [&](std::size_t word, std::uint64_t feature, bool) {
+        chain.ends.resize(word + 1, static_cast<std::uint32_t>(chain.features.size()));
+        const std::uint32_t number = table.find(feature);
+        if (number != FeatureTable::none) chain.features.push_back(number);
+        chain.ends[word] = static_cast<std::uint32_t>(chain.features.size());
+    });
+    for (const GoldToken& token : sentence.tokens) {
+        chain.labels.push_back(labelOf(token));
+        chain.transitions.push_back(byAmbiguity ? extractor.traitsOf(token.form).entry.ambiguity : 0);
+    }
+    return chain;
+}
+
+template <typename LabelOf>
+Data dataOf(const std::vector<WeightedCorpus>& corpora, const std::vector<PosOfWords>* pos,
+            FeatureExtractor& extractor, LabelOf labelOf, bool byAmbiguity) {
+    Data data;
+    const auto posOf = [&](std::size_t number) { return pos ? &(*pos)[number] : nullptr; };
+    eachSentence(corpora, [&](const GoldSentence& sentence, float, std::size_t number) {
+        extractor.extract(sentence, posOf(number),
+                          [&](std::size_t, std::uint64_t feature, bool) { data.table.count(feature); });
+    });
+    data.table.number(leastCount);
+    eachSentence(corpora, [&](const GoldSentence& sentence, float weight, std::size_t number) {
+        data.sentences.push_back(
+            numbered(sentence, weight, posOf(number), extractor, data.table, labelOf, byAmbiguity));
+    });
+    return data;
+}
+
+std::vector<std::int16_t> posTransitionsOf(const ChainTrainer<universalPosCount>& trainer) {
+    std::vector<std::int16_t> values;
+    for (const auto& rows : trainer.transitions())
+        for (const auto& row : rows)
+            for (const float value : row)
+                values.push_back(static_cast<std::int16_t>(ModelWriter::rounded(value * scale, 10000)));
+    return values;
+}
+
+std::vector<std::int16_t> nameTransitionsOf(const ChainTrainer<nameLabelCount>& trainer) {
+    std::vector<std::int16_t> values;
+    const auto& rows = trainer.transitions().front();
+    for (std::size_t previous = 0; previous < nameLabelCount; ++previous)
+        for (const float value : rows[previous])
+            values.push_back(static_cast<std::int16_t>(ModelWriter::rounded(value * scale, 10000)));
+    return values;
+}
+
+bool anyPosMayFollow(std::size_t, std::size_t) {
+    return false;
+}
+
+bool nameMayNotFollow(std::size_t previous, std::size_t next) {
+    const std::size_t before = previous == nameLabelCount ? 0 : previous;
+    return !mayFollow(static_cast<NameLabel>(before), static_cast<NameLabel>(next));
+}
+
+void trainPos(const Sources& sources, FeatureExtractor& extractor, ModelWriter& writer, std::ostream& log) {
+    Data data = dataOf(
+        sources.tagged, nullptr, extractor,
+        [](const GoldToken& token) { return static_cast<std::uint8_t>(*token.pos); }, true);
+    log << "parts of speech: " << data.sentences.size() << " sentences, " << data.table.features().size()
+        << " features\n";
+    ChainTrainer<universalPosCount> trainer(data.table.features().size(), sources.transitionClasses,
+                                            anyPosMayFollow);
+    trainer.train(data.sentences, posOptions, [&](int epoch) { log << "epoch " << epoch + 1 << std::endl; });
+    writer.addWeights<universalPosCount>(data.table.features(), trainer.weights(), 0, scale, mostPosWeights);
+    writer.setPosTransitions(posTransitionsOf(trainer));
+}
+
+// The parts of speech that the engine will see, which are not always the right ones.
+std::vector<PosOfWords> posBy(const LinearModel& model, const std::vector<WeightedCorpus>& corpora) {
+    LinearTagger tagger(model);
+    std::vector<PosOfWords> all;
+    eachSentence(corpora, [&](const GoldSentence& sentence, float, std::size_t) {
+        std::vector<std::string_view> words;
+        for (const GoldToken& token : sentence.tokens)
+            words.push_back(token.form);
+        std::vector<WordLabels> labels(words.size());
+        tagger.tag(words, labels);
+        PosOfWords pos;
+        for (const WordLabels& label : labels)
+            pos.push_back(label.pos);
+        all.push_back(std::move(pos));
+    });
+    return all;
+}
+
+void trainNames(const Sources& sources, const std::vector<PosOfWords>& pos, FeatureExtractor& extractor,
+                ModelWriter& writer, std::ostream& log) {
+    Data data = dataOf(
+        sources.names, &pos, extractor,
+        [](const GoldToken& token) { return static_cast<std::uint8_t>(token.name); }, false);
+    log << "names: " << data.sentences.size() << " sentences, " << data.table.features().size()
+        << " features\n";
+    ChainTrainer<nameLabelCount> trainer(data.table.features().size(), 1, nameMayNotFollow);
+    trainer.train(data.sentences, nameOptions, [&](int epoch) { log << "epoch " << epoch + 1 << std::endl; });
+    writer.addWeights<nameLabelCount>(data.table.features(), trainer.weights(), universalPosCount, scale,
+                                      mostNameWeights);
+    writer.setNameTransitions(nameTransitionsOf(trainer));
+}
+
+} // namespace
+
+std::vector<std::byte> trainModel(std::string_view language, const Sources& sources, std::ostream& log) {
+    FeatureExtractor extractor(sources.lexicon);
+    ModelWriter writer(language);
+    writer.setLexicon(sources.lexicon);
+    log << "lexicon: " << sources.lexicon.size() << " words\n";
+    trainPos(sources, extractor, writer, log);
+    writer.setNameTransitions(std::vector<std::int16_t>(nameLabelCount * nameLabelCount, 0));
+    const std::vector<std::byte> posOnly = writer.bytes();
+    const auto model = LinearModel::over(posOnly);
+    if (!model.succeeded()) fatalError(model.fault());
+    trainNames(sources, posBy(model.value(), sources.names), extractor, writer, log);
+    return writer.bytes();
+}
+
+} // namespace lexiform::train
