@@ -12,7 +12,9 @@ namespace lexiform::cli {
 
 namespace {
 
-void describeTag(CLI::App& app, TagRequest& request) {
+constexpr const char* fileHelp = "Texts in UTF-8; - is standard input";
+
+CLI::App* addTag(CLI::App& app, TagRequest& request) {
     CLI::App* const command = app.add_subcommand(
         "tag", "Writes every token of a text with its class; reads standard input when no file is named.");
     command->add_option("--format", request.format, "How to write it: conllu (the default), tsv or ansi")
@@ -22,7 +24,17 @@ void describeTag(CLI::App& app, TagRequest& request) {
         if (request.withKey && request.format != "ansi")
             throw CLI::ValidationError("--key", "goes with --format ansi alone");
     });
-    command->add_option("FILE", request.files, "Texts in UTF-8; - is standard input");
+    command->add_option("FILE", request.files, fileHelp);
+    return command;
+}
+
+CLI::App* addConcordance(CLI::App& app, ConcordanceRequest& request) {
+    CLI::App* const command = app.add_subcommand(
+        "concordance", "Lists the words of each class with their counts; several files are one report.");
+    command->add_flag("--lemmas", request.lemmas, "Counts dictionary forms rather than words as written");
+    command->add_flag("--each", request.each, "Gives each file a report of its own, under its name");
+    command->add_option("FILE", request.files, fileHelp);
+    return command;
 }
 
 Exit exitFor(const CLI::App& app, const CLI::ParseError& error) {
@@ -33,18 +45,21 @@ Exit exitFor(const CLI::App& app, const CLI::ParseError& error) {
 
 } // namespace
 
-Outcome<TagRequest, Exit> parseCommandLine(int argc, const char* const* argv, const std::string& version) {
+Outcome<Request, Exit> parseCommandLine(int argc, const char* const* argv, const std::string& version) {
     CLI::App app("Lexiform on the command line: the lexical classes of a text.", "lexiform-cli");
     app.set_version_flag("--version", "lexiform-cli " + version);
     app.require_subcommand(1);
-    TagRequest request;
-    describeTag(app, request);
+    TagRequest tag;
+    ConcordanceRequest concordance;
+    addTag(app, tag);
+    const CLI::App* const concordanceCommand = addConcordance(app, concordance);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return exitFor(app, error);
     }
-    return request;
+    if (concordanceCommand->parsed()) return Request(concordance);
+    return Request(tag);
 }
 
 } // namespace lexiform::cli

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "tools/lexiform-cli/ConcordanceCommand.h"
 #include "tools/lexiform-cli/TagCommand.h"
 
 #include "base/Outcome.h"
 
 #include <string>
+#include <variant>
 
 namespace lexiform::cli {
 
@@ -18,8 +20,11 @@ struct Exit {
 inline constexpr int failed = 1;
 inline constexpr int misused = 2;
 
+/// One of the commands with what it was asked for.
+using Request = std::variant<TagRequest, ConcordanceRequest>;
+
 /// What a command line asks for. Help and the version, as well as mistakes, are an Exit.
-[[nodiscard]] Outcome<TagRequest, Exit> parseCommandLine(int argc, const char* const* argv,
-                                                         const std::string& version);
+[[nodiscard]] Outcome<Request, Exit> parseCommandLine(int argc, const char* const* argv,
+                                                      const std::string& version);
 
 } // namespace lexiform::cli

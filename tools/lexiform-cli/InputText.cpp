@@ -40,6 +40,10 @@ Outcome<std::string, InputFault> checked(const std::string& name, std::string by
 
 } // namespace
 
+std::vector<std::string> inputNames(const std::vector<std::string>& named) {
+    return named.empty() ? std::vector<std::string>{standardInput} : named;
+}
+
 Outcome<std::string, InputFault> readText(const std::string& name) {
     std::string bytes;
     if (name == standardInput) {

@@ -3,44 +3,12 @@
 #include "base/present.h"
 #include "tools/lexiform-cli/AnsiWriter.h"
 #include "tools/lexiform-cli/InputText.h"
+#include "tools/lexiform-cli/Sink.h"
 #include "tools/lexiform-cli/TokenWriter.h"
-
-#include <cerrno>
-#include <cstring>
 
 namespace lexiform::cli {
 
 namespace {
-
-/// Collects output and passes it on in large pieces.
-class Sink {
-public:
-    explicit Sink(std::FILE* file) : file_(file) {}
-
-    std::string pending;
-
-    void flushIfLarge() {
-        if (pending.size() >= (1U << 16U)) flush();
-    }
-    void flush() {
-        if (std::fwrite(pending.data(), 1, pending.size(), file_) != pending.size()) failed_ = true;
-        pending.clear();
-    }
-    /// Whether everything has reached the file.
-    [[nodiscard]] bool finish() {
-        flush();
-        return std::fflush(file_) == 0 && !failed_;
-    }
-    [[nodiscard]] bool failed() const { return failed_; }
-
-private:
-    std::FILE* file_;
-    bool failed_ = false;
-};
-
-void report(std::FILE* errors, const std::string& message) {
-    std::fprintf(errors, "lexiform-cli: %s\n", message.c_str());
-}
 
 void writeText(const std::string& text, const std::string& shownName, const linguistics::Engine& engine,
                TokenWriter& writer, Sink& sink) {
@@ -57,8 +25,7 @@ void writeText(const std::string& text, const std::string& shownName, const ling
 
 int tag(const TagRequest& request, const linguistics::Engine& engine, std::FILE* out, std::FILE* errors) {
     const std::unique_ptr<TokenWriter> writer = writerFor(request.format);
-    const std::vector<std::string> files =
-        request.files.empty() ? std::vector<std::string>{standardInput} : request.files;
+    const std::vector<std::string> files = inputNames(request.files);
     Sink sink(out);
     int status = 0;
 
@@ -73,11 +40,7 @@ int tag(const TagRequest& request, const linguistics::Engine& engine, std::FILE*
         }
     }
     if (request.withKey) sink.pending += "\n" + ansiKey();
-    if (!sink.finish()) {
-        report(errors, std::string("cannot write the result: ") + std::strerror(errno));
-        status = 1;
-    }
-    return status;
+    return sink.finish(errors) ? status : 1;
 }
 
 } // namespace lexiform::cli

@@ -1,13 +1,11 @@
 #include "tools/lexiform-cli/TagCommand.h"
 
-#include "tools/lexiform-cli/CommandLine.h"
-#include "tools/lexiform-cli/InputText.h"
+#include "tests/tools/lexiform-cli/CommandTest.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
 namespace lexiform::cli {
@@ -15,48 +13,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A folder of its own for each test, removed afterwards.
-class TagCommand : public testing::Test {
+class TagCommand : public CommandTest {
 protected:
-    TagCommand() {
-        const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = fs::temp_directory_path() / (std::string("lexiform-cli-") + info->name());
-        fs::create_directories(folder_);
-    }
-    ~TagCommand() override { fs::remove_all(folder_); }
-
-    std::string file(const std::string& name, const std::string& bytes) const {
-        std::ofstream(folder_ / name, std::ios::binary) << bytes;
-        return (folder_ / name).string();
-    }
-
-    /// Runs the command; fills `out` and `errors`.
     int run(const TagRequest& request) {
-        const std::string outName = (folder_ / "out").string();
-        const std::string errorsName = (folder_ / "errors").string();
-        std::FILE* const outFile = std::fopen(outName.c_str(), "wb");
-        std::FILE* const errorsFile = std::fopen(errorsName.c_str(), "wb");
-        const linguistics::Engine engine(
-            std::make_shared<const linguistics::ModelStore>(std::vector<fs::path>{LEXIFORM_MODELS_DIR}));
-        const int status = tag(request, engine, outFile, errorsFile);
-        std::fclose(outFile);
-        std::fclose(errorsFile);
-        out = contentOf(outName);
-        errors = contentOf(errorsName);
-        return status;
+        return runWith([&](const auto& engine, std::FILE* outFile, std::FILE* errorsFile) {
+            return tag(request, *engine, outFile, errorsFile);
+        });
     }
-
-    static std::string contentOf(const std::string& name) {
-        std::ostringstream content;
-        content << std::ifstream(name, std::ios::binary).rdbuf();
-        return content.str();
-    }
-
-    std::string out;
-    std::string errors;
-
-private:
-    fs::path folder_;
 };
 
 std::string joinedForms(const std::string& conllu) {
@@ -121,37 +84,6 @@ TEST_F(TagCommand, saysWhenItsResultCannotBeWritten) {
     EXPECT_EQ(tag({.files = {file("cat.txt", "A cat.")}}, engine, full, silent), 1);
     std::fclose(full);
     std::fclose(silent);
-}
-
-int statusOf(std::vector<const char*> arguments) {
-    arguments.insert(arguments.begin(), "lexiform-cli");
-    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
-    return request.succeeded() ? -1 : request.fault().status;
-}
-
-TEST(CommandLine, understandsTheTagCommand) {
-    const std::vector<const char*> arguments = {"lexiform-cli", "tag",   "--format", "ansi",
-                                                "--key",        "a.txt", "-"};
-    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
-    ASSERT_TRUE(request.succeeded());
-    EXPECT_EQ(request.value().format, "ansi");
-    EXPECT_TRUE(request.value().withKey);
-    EXPECT_EQ(request.value().files, (std::vector<std::string>{"a.txt", "-"}));
-}
-
-TEST(CommandLine, exitsWithTwoWhenItIsMisused) {
-    EXPECT_EQ(statusOf({}), 2);
-    EXPECT_EQ(statusOf({"paint"}), 2);
-    EXPECT_EQ(statusOf({"tag", "--format", "pdf"}), 2);
-    EXPECT_EQ(statusOf({"tag", "--colour"}), 2);
-    EXPECT_EQ(statusOf({"tag", "--key"}), 2);
-}
-
-TEST(CommandLine, exitsWithNothingWrongAfterHelpAndVersion) {
-    EXPECT_EQ(statusOf({"--help"}), 0);
-    EXPECT_EQ(statusOf({"tag", "--help"}), 0);
-    const char* const arguments[] = {"lexiform-cli", "--version"};
-    EXPECT_EQ(parseCommandLine(2, arguments, "1.2.3").fault().message, "lexiform-cli 1.2.3\n");
 }
 
 } // namespace

@@ -1,0 +1,55 @@
+#include "tools/lexiform-cli/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace lexiform::cli {
+namespace {
+
+int statusOf(std::vector<const char*> arguments) {
+    arguments.insert(arguments.begin(), "lexiform-cli");
+    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
+    return request.succeeded() ? -1 : request.fault().status;
+}
+
+TEST(CommandLine, understandsTheTagCommand) {
+    const std::vector<const char*> arguments = {"lexiform-cli", "tag",   "--format", "ansi",
+                                                "--key",        "a.txt", "-"};
+    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
+    ASSERT_TRUE(request.succeeded());
+    const auto& tag = std::get<TagRequest>(request.value());
+    EXPECT_EQ(tag.format, "ansi");
+    EXPECT_TRUE(tag.withKey);
+    EXPECT_EQ(tag.files, (std::vector<std::string>{"a.txt", "-"}));
+}
+
+TEST(CommandLine, understandsTheConcordanceCommand) {
+    const std::vector<const char*> arguments = {"lexiform-cli", "concordance", "--lemmas", "--each", "a.txt"};
+    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
+    ASSERT_TRUE(request.succeeded());
+    const auto& concordance = std::get<ConcordanceRequest>(request.value());
+    EXPECT_TRUE(concordance.lemmas);
+    EXPECT_TRUE(concordance.each);
+    EXPECT_EQ(concordance.files, std::vector<std::string>{"a.txt"});
+}
+
+TEST(CommandLine, exitsWithTwoWhenItIsMisused) {
+    EXPECT_EQ(statusOf({}), 2);
+    EXPECT_EQ(statusOf({"paint"}), 2);
+    EXPECT_EQ(statusOf({"tag", "--format", "pdf"}), 2);
+    EXPECT_EQ(statusOf({"tag", "--colour"}), 2);
+    EXPECT_EQ(statusOf({"tag", "--key"}), 2);
+}
+
+TEST(CommandLine, exitsWithNothingWrongAfterHelpAndVersion) {
+    EXPECT_EQ(statusOf({"--help"}), 0);
+    EXPECT_EQ(statusOf({"tag", "--help"}), 0);
+    const char* const arguments[] = {"lexiform-cli", "--version"};
+    EXPECT_EQ(parseCommandLine(2, arguments, "1.2.3").fault().message, "lexiform-cli 1.2.3\n");
+}
+
+} // namespace
+} // namespace lexiform::cli
