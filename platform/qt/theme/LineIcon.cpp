@@ -23,9 +23,9 @@ void addLine(QPainterPath& path, QPointF from, QPointF to) {
 // Three lines of words of different lengths.
 QPainterPath parsePath() {
     QPainterPath path;
-    for (const QLineF& word : {QLineF{3, 5, 8, 5}, QLineF{11.5, 5, 17, 5}, QLineF{3, 10, 5.5, 10},
-                               QLineF{9, 10, 13, 10}, QLineF{16, 10, 17, 10}, QLineF{3, 15, 10, 15},
-                               QLineF{13.5, 15, 15, 15}})
+    for (const QLineF& word :
+         {QLineF{3, 5, 8, 5}, QLineF{11.5, 5, 17, 5}, QLineF{3, 10, 5.5, 10}, QLineF{9, 10, 13, 10},
+          QLineF{16, 10, 17, 10}, QLineF{3, 15, 10, 15}, QLineF{13.5, 15, 15, 15}})
         addLine(path, word.p1(), word.p2());
     return path;
 }
@@ -115,6 +115,8 @@ private:
 
 } // namespace
 
-QIcon lineIcon(Glyph glyph) { return QIcon(new LineIconEngine(glyph)); }
+QIcon lineIcon(Glyph glyph) {
+    return QIcon(new LineIconEngine(glyph));
+}
 
 } // namespace lexiform::qt
