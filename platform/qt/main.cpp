@@ -2,6 +2,9 @@
 #include "platform/linguistics/LinguisticTagger.h"
 #include "platform/linguistics/ModelMessage.h"
 #include "platform/linguistics/modelFolders.h"
+#include "platform/qt/adapters/QtFileWriter.h"
+#include "platform/qt/adapters/QtSavePanel.h"
+#include "platform/qt/adapters/QtUserDefaults.h"
 #include "platform/qt/documents/DocumentController.h"
 #include "platform/qt/documents/SceneStoryboard.h"
 #include "platform/qt/documents/commandLine.h"
@@ -22,8 +25,16 @@ namespace {
 
 using namespace lexiform;
 
-QString stateFile() {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + QStringLiteral("/state.ini");
+QString configFile(const QString& name) {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u'/' + name;
+}
+
+AnalysisServices analysisServices() {
+    return {
+        .defaults = std::make_shared<qt::QtUserDefaults>(configFile(QStringLiteral("defaults.ini"))),
+        .makeSavePanel = [] { return std::make_shared<qt::QtSavePanel>(QObject::tr("Save List of Words")); },
+        .files = std::make_shared<qt::QtFileWriter>(),
+    };
 }
 
 QStringList chooseFiles() {
@@ -46,7 +57,7 @@ int run(QApplication& application, const QStringList& files) {
     QApplication::setDesktopFileName(QStringLiteral("lexiform"));
     QApplication::setWindowIcon(qt::applicationIcon());
 
-    qt::StateStore store(stateFile());
+    qt::StateStore store(configFile(QStringLiteral("state.ini")));
     qt::Theme theme(application, store.appearance());
     qt::WindowList windows;
 
@@ -54,7 +65,7 @@ int run(QApplication& application, const QStringList& files) {
     const TaggerFactory taggers = linguisticTaggers(std::make_shared<linguistics::Engine>(models));
     const auto storyboard = std::make_shared<qt::SceneStoryboard>();
     storyboard->addScene(std::string(qt::documentSceneIdentifier),
-                         [taggers, services = qt::WindowServices{theme, store, windows}] {
+                         [taggers, services = qt::WindowServices{theme, store, windows, analysisServices()}] {
                              return qt::makeDocumentScene(taggers, services);
                          });
 

@@ -17,6 +17,10 @@ void QtPopUpButton::selectItem(std::size_t index) {
     if (box_) box_->setCurrentIndex(static_cast<int>(index));
 }
 
+int QtPopUpButton::indexOfSelectedItem() const {
+    return box_ ? box_->currentIndex() : -1;
+}
+
 void QtPopUpButton::setEnabled(bool enabled) {
     if (box_) box_->setEnabled(enabled);
 }

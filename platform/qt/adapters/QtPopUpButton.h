@@ -15,6 +15,7 @@ public:
     void removeAllItems() override;
     void addItems(std::span<const std::string_view> titles) override;
     void selectItem(std::size_t index) override;
+    [[nodiscard]] int indexOfSelectedItem() const override;
     void setEnabled(bool enabled) override;
 
 private:

@@ -7,11 +7,13 @@
 #include "platform/qt/adapters/QtTextPane.h"
 #include "platform/qt/adapters/QtView.h"
 
+#include <utility>
+
 namespace lexiform::qt {
 
 ControlOutlets::ControlOutlets(ViewController& controller, const DocumentPanes& panes, PopUpBox* typesPopUp,
-                               BusyLine* busyLine)
-    : window_(std::make_shared<QtWindow>()), view_(std::make_shared<QtView>(window_)),
+                               BusyLine* busyLine, std::function<QString()> title)
+    : window_(std::make_shared<QtWindow>(std::move(title))), view_(std::make_shared<QtView>(window_)),
       typesPopUp_(std::make_shared<QtPopUpButton>(typesPopUp)),
       inputScroller_(std::make_shared<QtScrollView>(panes.input())),
       outputScroller_(std::make_shared<QtScrollView>(panes.output())),

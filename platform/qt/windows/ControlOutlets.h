@@ -6,6 +6,7 @@
 #include "platform/qt/windows/DocumentPanes.h"
 #include "platform/qt/windows/PopUpBox.h"
 
+#include <functional>
 #include <memory>
 
 namespace lexiform::qt {
@@ -14,8 +15,9 @@ namespace lexiform::qt {
 /// the controller refers to without owning them.
 class ControlOutlets {
 public:
+    /// `title` gives the window's title.
     ControlOutlets(ViewController& controller, const DocumentPanes& panes, PopUpBox* typesPopUp,
-                   BusyLine* busyLine);
+                   BusyLine* busyLine, std::function<QString()> title);
 
 private:
     std::shared_ptr<QtWindow> window_;

@@ -25,14 +25,14 @@ DocumentWindow::DocumentWindow(std::shared_ptr<ViewController> controller, const
     : controller_(std::move(controller)), store_(services.store), actions_(makeTextActions(this)),
       toolBar_(new DocumentToolBar(actions_, this)), busyLine_(new BusyLine(this)),
       panes_(new DocumentPanes(this)), statusLine_(new StatusLine(this)),
-      outlets_(*controller_, *panes_, toolBar_->typesPopUp(), busyLine_) {
+      outlets_(*controller_, *panes_, toolBar_->typesPopUp(), busyLine_, [this] { return displayName_; }) {
     buildBars(services);
     setCentralWidget(makeContent());
     connectCommands();
     restoreState();
     panes_->input()->setFocus();
     services.windows.add(this);
-    new ScreenAppearance(*this, [this] { runPass(&ViewController::viewDidAppear); });
+    new ScreenAppearance(*this, [this] { run(&ViewController::viewDidAppear, &DocumentWindow::showParsed); });
 }
 
 // A window title marks the place of an asterisk with "[*]", which a file name may hold.
@@ -69,21 +69,26 @@ QWidget* DocumentWindow::makeContent() {
 }
 
 void DocumentWindow::connectCommands() {
-    connectCommand(actions_.parse, &ViewController::parseButton);
+    connectCommand(actions_.parse, &ViewController::parseButton, &DocumentWindow::showParsed);
+    connectCommand(actions_.multiParse, &ViewController::multiParse, &DocumentWindow::showMultiParsed);
+    connectCommand(actions_.listWords, &ViewController::listConcButton);
+    connectCommand(actions_.saveList, &ViewController::saveConcButton);
+    connect(toolBar_->typesPopUp(), &QComboBox::activated, this,
+            [this] { run(&ViewController::parse2PopupAction); });
     connect(panes_->input(), &QPlainTextEdit::textChanged, this, &DocumentWindow::showUnparsed);
     connect(panes_, &PaneSplitter::arranged, this,
             [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
 }
 
-void DocumentWindow::connectCommand(QAction* action, Command command) {
-    connect(action, &QAction::triggered, this, [this, command] { runPass(command); });
+void DocumentWindow::connectCommand(QAction* action, Command command, void (DocumentWindow::*tell)()) {
+    connect(action, &QAction::triggered, this, [this, command, tell] { run(command, tell); });
     action->setEnabled(true);
 }
 
-void DocumentWindow::runPass(Command command) {
+void DocumentWindow::run(Command command, void (DocumentWindow::*tell)()) {
     const WaitCursor wait;
     ((*controller_).*command)();
-    showParsed();
+    if (tell != nullptr) (this->*tell)();
 }
 
 void DocumentWindow::showParsed() {
@@ -91,6 +96,13 @@ void DocumentWindow::showParsed() {
         statusLine_->showNothing();
     else
         statusLine_->showParsed(wordCount(*controller_));
+}
+
+void DocumentWindow::showMultiParsed() {
+    if (panes_->input()->document()->isEmpty())
+        statusLine_->showNothing();
+    else
+        statusLine_->showMultiParsed(recordedWordCount(*controller_));
 }
 
 void DocumentWindow::showUnparsed() {

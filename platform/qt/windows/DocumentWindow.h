@@ -47,9 +47,11 @@ private:
     void buildBars(const WindowServices& services);
     [[nodiscard]] QWidget* makeContent();
     void connectCommands();
-    void connectCommand(QAction* action, Command command);
-    void runPass(Command command);
+    /// Runs `command` when the action is triggered and then, if anything, `tell` for the status line.
+    void connectCommand(QAction* action, Command command, void (DocumentWindow::*tell)() = nullptr);
+    void run(Command command, void (DocumentWindow::*tell)() = nullptr);
     void showParsed();
+    void showMultiParsed();
     void showUnparsed();
     void restoreState();
 

@@ -24,12 +24,17 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent), label_(new QLabel(
 }
 
 void StatusLine::showParsed(std::int64_t words) {
-    if (words == 0)
-        label_->setText(tr("No words"));
-    else if (words == 1)
-        label_->setText(tr("1 word, parsed"));
-    else
-        label_->setText(tr("%1 words, parsed").arg(QLocale().toString(static_cast<qlonglong>(words))));
+    label_->setText(tr("%1, parsed").arg(counted(words)));
+}
+
+void StatusLine::showMultiParsed(std::int64_t words) {
+    label_->setText(tr("%1, multi-parsed").arg(counted(words)));
+}
+
+QString StatusLine::counted(std::int64_t words) {
+    if (words == 0) return tr("No words");
+    if (words == 1) return tr("1 word");
+    return tr("%1 words").arg(QLocale().toString(static_cast<qlonglong>(words)));
 }
 
 void StatusLine::showUnparsed() {

@@ -14,8 +14,10 @@ class StatusLine : public QStatusBar {
 public:
     explicit StatusLine(QWidget* parent = nullptr);
 
-    /// A pass has classed that many words.
+    /// The lexical pass has classed that many words.
     void showParsed(std::int64_t words);
+    /// The multi-scheme pass has.
+    void showMultiParsed(std::int64_t words);
     /// The input pane holds what no pass has seen.
     void showUnparsed();
     void showNothing();
@@ -23,6 +25,8 @@ public:
     [[nodiscard]] QString text() const { return label_->text(); }
 
 private:
+    [[nodiscard]] static QString counted(std::int64_t words);
+
     QLabel* label_;
 };
 

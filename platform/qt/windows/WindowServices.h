@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/ViewController.h"
 #include "platform/qt/theme/Theme.h"
 #include "platform/qt/windows/StateStore.h"
 #include "platform/qt/windows/WindowList.h"
@@ -11,6 +12,7 @@ struct WindowServices {
     Theme& theme;
     StateStore& store;
     WindowList& windows;
+    AnalysisServices analysis;
 };
 
 } // namespace lexiform::qt

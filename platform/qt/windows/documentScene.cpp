@@ -7,7 +7,7 @@ namespace lexiform::qt {
 
 std::shared_ptr<SceneController> makeDocumentScene(const TaggerFactory& makeTagger,
                                                    const WindowServices& services) {
-    auto content = std::make_shared<ViewController>(makeTagger);
+    auto content = std::make_shared<ViewController>(makeTagger, services.analysis);
     auto window = std::make_unique<DocumentWindow>(content, services);
     content->viewDidLoad();
     return std::make_shared<QtWindowController>(std::move(window), std::move(content));

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QFileDialog>
+#include <QStringList>
+
+namespace lexiform::qt {
+
+/// A dialog that asks where to save. A name without one of its extensions gets the first of them before
+/// the person is asked whether an existing file may be replaced.
+class SaveDialog : public QFileDialog {
+    Q_OBJECT
+
+public:
+    explicit SaveDialog(const QString& title);
+
+    /// Without dots, the usual one first.
+    void setExtensions(const QStringList& extensions);
+
+protected:
+    void accept() override;
+
+private:
+    [[nodiscard]] QString completed(const QString& name) const;
+
+    QStringList extensions_;
+};
+
+} // namespace lexiform::qt
