@@ -15,7 +15,7 @@ void ViewController::parseText() {
     present(tagger).setString(text);
     // No options: leaving out white space here would turn the output pane into a list of bare words.
     tagger->enumerateTags({0, text.size()}, NLTokenUnit::word, NLTagSchemeNameTypeOrLexicalClass,
-                          NLTaggerOptions::none, [&](std::optional<std::string_view> tag, TextRange token) {
+                          NLTaggerOptions(), [&](std::optional<std::string_view> tag, TextRange token) {
                               return colourToken(tag, token, text, *this, output);
                           });
 

@@ -16,7 +16,7 @@ constexpr std::array fourSchemes = {NLTagSchemeScript, NLTagSchemeLanguage, NLTa
                                     NLTagSchemeLemma};
 
 void enumerateWords(Tagger& tagger, std::string_view text, TagScheme scheme, const Tagger::Visitor& visitor) {
-    tagger.enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, NLTaggerOptions::none, visitor);
+    tagger.enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, NLTaggerOptions(), visitor);
 }
 
 Tagger::Visitor collectInto(StringList& target, std::string_view fallback) {

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
@@ -16,26 +17,37 @@ namespace lexiform {
 /// What one token is.
 enum class NLTokenUnit : std::uint8_t { word = 0, sentence = 1, paragraph = 2, document = 3 };
 
-/// What an enumeration leaves out or joins; a set of bits. The empty set leaves nothing out: every
-/// byte of the range lies in a token.
-enum class NLTaggerOptions : std::uint8_t {
-    none = 0,
-    omitWords = 1,
-    omitPunctuation = 2,
-    omitWhitespace = 4,
+/// Something that an enumeration leaves out or joins.
+enum class NLTaggerOption : std::uint8_t {
+    omitWords,
+    omitPunctuation,
+    omitWhitespace,
     /// Leaves out symbols and words of no lexical class.
-    omitOther = 8,
+    omitOther,
     /// Gives a name of several words as one token.
-    joinNames = 16,
+    joinNames,
 };
 
-[[nodiscard]] constexpr NLTaggerOptions operator|(NLTaggerOptions a, NLTaggerOptions b) {
-    return static_cast<NLTaggerOptions>(static_cast<std::uint8_t>(a) | static_cast<std::uint8_t>(b));
-}
+/// A set of options. The empty set leaves nothing out: every byte of the range lies in a token.
+class NLTaggerOptions {
+public:
+    constexpr NLTaggerOptions() = default;
+    constexpr NLTaggerOptions(std::initializer_list<NLTaggerOption> options) {
+        for (const NLTaggerOption option : options)
+            bits_ |= bitOf(option);
+    }
 
-[[nodiscard]] constexpr bool contains(NLTaggerOptions set, NLTaggerOptions option) {
-    return (static_cast<std::uint8_t>(set) & static_cast<std::uint8_t>(option)) != 0;
-}
+    [[nodiscard]] constexpr bool contains(NLTaggerOption option) const {
+        return (bits_ & bitOf(option)) != 0;
+    }
+    [[nodiscard]] constexpr bool empty() const { return bits_ == 0; }
+    bool operator==(const NLTaggerOptions&) const = default;
+
+private:
+    static constexpr unsigned bitOf(NLTaggerOption option) { return 1U << static_cast<unsigned>(option); }
+
+    unsigned bits_ = 0;
+};
 
 /// A visitor's answer: whether the enumeration goes on.
 enum class Next : bool { stop, proceed };

@@ -97,7 +97,7 @@ void LinguisticTagger::enumerateTags(TextRange range, NLTokenUnit unit, TagSchem
                                      NLTaggerOptions options, const Visitor& visitor) {
     const std::string_view text = substring(text_, range);
     const Visit visit(text, range.start, tagsUnder(scheme, unit), visitor);
-    const bool everyWord = unit == NLTokenUnit::word && options == NLTaggerOptions::none;
+    const bool everyWord = unit == NLTokenUnit::word && options.empty();
     if (everyWord && keepsAnalysis_ && range.length == text_.size()) {
         if (!words_) words_.emplace(text_, *engine_);
         return words_->enumerate(scheme, visitor);

@@ -21,10 +21,10 @@ bool isOther(const Token& token) {
 }
 
 bool isLeftOut(const Token& token, NLTaggerOptions options) {
-    if (isBlank(token)) return contains(options, NLTaggerOptions::omitWhitespace);
-    if (token.pos == UniversalPos::PUNCT) return contains(options, NLTaggerOptions::omitPunctuation);
-    if (isOther(token)) return contains(options, NLTaggerOptions::omitOther);
-    return contains(options, NLTaggerOptions::omitWords);
+    if (isBlank(token)) return options.contains(NLTaggerOption::omitWhitespace);
+    if (token.pos == UniversalPos::PUNCT) return options.contains(NLTaggerOption::omitPunctuation);
+    if (isOther(token)) return options.contains(NLTaggerOption::omitOther);
+    return options.contains(NLTaggerOption::omitWords);
 }
 
 /// One past the last token of the name that starts at `first`.
@@ -54,7 +54,7 @@ std::optional<std::string_view> firstTag(const Token* begin, const Token* end, s
 std::vector<TaggedUnit> wordsOf(const Paragraph& paragraph, std::string_view text, TagOfToken tagOf,
                                 NLTaggerOptions options) {
     const std::vector<Token>& tokens = paragraph.tokens;
-    const bool joinsNames = contains(options, NLTaggerOptions::joinNames);
+    const bool joinsNames = options.contains(NLTaggerOption::joinNames);
     std::vector<TaggedUnit> words;
     words.reserve(tokens.size());
     for (std::size_t first = 0; first < tokens.size();) {

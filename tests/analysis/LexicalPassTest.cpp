@@ -85,7 +85,7 @@ TEST(LexicalPass, makesOneTaggerForOneSchemeAndEnumeratesTheWholeTextOnceWithout
     EXPECT_EQ(window.tagger->texts, std::vector<std::string>{"The cat sat."});
     EXPECT_EQ(window.tagger->ranges, (std::vector<TextRange>{{0, 12}}));
     EXPECT_EQ(window.tagger->units, std::vector{NLTokenUnit::word});
-    EXPECT_EQ(window.tagger->options, std::vector{NLTaggerOptions::none});
+    EXPECT_EQ(window.tagger->options, std::vector{NLTaggerOptions()});
 }
 
 TEST(LexicalPass, makesANewTaggerEveryTime) {

@@ -29,7 +29,7 @@ using Tagged = std::vector<std::pair<std::string, std::string>>;
 
 /// Every token of a range with its tag, "-" for none.
 Tagged tagsOf(const std::string& text, TextRange range, NLTokenUnit unit, TagScheme scheme,
-              NLTaggerOptions options = NLTaggerOptions::none) {
+              NLTaggerOptions options = NLTaggerOptions()) {
     Tagged tagged;
     englishTagger(text)->enumerateTags(range, unit, scheme, options,
                                        [&](std::optional<std::string_view> tag, TextRange token) {
@@ -103,7 +103,7 @@ TEST(LinguisticTagger, saysTheSameWhetherItWasMadeForOneSchemeOrForAll) {
         const std::unique_ptr<Tagger> alone = make(std::array{scheme});
         alone->setString(text);
         Tagged tagged;
-        alone->enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, NLTaggerOptions::none,
+        alone->enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, NLTaggerOptions(),
                              [&](std::optional<std::string_view> tag, TextRange token) {
                                  tagged.emplace_back(substring(text, token), tag.value_or("-"));
                                  return Next::proceed;
@@ -116,7 +116,7 @@ TEST(LinguisticTagger, forgetsTheTextBeforeWhenItIsGivenAnother) {
     const std::unique_ptr<Tagger> tagger = englishTagger("one two");
     const auto words = [&](std::size_t length) {
         int count = 0;
-        tagger->enumerateTags({0, length}, NLTokenUnit::word, NLTagSchemeScript, NLTaggerOptions::none,
+        tagger->enumerateTags({0, length}, NLTokenUnit::word, NLTagSchemeScript, NLTaggerOptions(),
                               [&](std::optional<std::string_view>, TextRange) {
                                   ++count;
                                   return Next::proceed;
@@ -131,7 +131,7 @@ TEST(LinguisticTagger, forgetsTheTextBeforeWhenItIsGivenAnother) {
 TEST(LinguisticTagger, stopsWhenTheVisitorHasEnough) {
     int visits = 0;
     englishTagger("one two three")
-        ->enumerateTags({0, 13}, NLTokenUnit::word, NLTagSchemeNameTypeOrLexicalClass, NLTaggerOptions::none,
+        ->enumerateTags({0, 13}, NLTokenUnit::word, NLTagSchemeNameTypeOrLexicalClass, NLTaggerOptions(),
                         [&](std::optional<std::string_view>, TextRange) {
                             ++visits;
                             return visits < 2 ? Next::proceed : Next::stop;
@@ -157,7 +157,7 @@ TEST(LinguisticTagger, givesUnitsOfSeveralWordsNoLexicalClass) {
 
 TEST(LinguisticTagger, leavesOutWhatTheOptionsName) {
     EXPECT_EQ(tagsOf("the cat.", {0, 8}, NLTokenUnit::word, NLTagSchemeNameTypeOrLexicalClass,
-                     NLTaggerOptions::omitWhitespace | NLTaggerOptions::omitPunctuation),
+                     {NLTaggerOption::omitWhitespace, NLTaggerOption::omitPunctuation}),
               (Tagged{{"the", "Determiner"}, {"cat", "Noun"}}));
 }
 

@@ -62,27 +62,28 @@ using Pieces = std::vector<std::string>;
 
 TEST(WordUnits, coverTheParagraphWithoutOptions) {
     std::string joined;
-    for (const std::string& piece : wordsWith(NLTaggerOptions::none))
+    for (const std::string& piece : wordsWith(NLTaggerOptions()))
         joined += piece;
     EXPECT_EQ(joined, text);
 }
 
 TEST(WordUnits, leaveOutWhatTheOptionsName) {
-    using enum NLTaggerOptions;
-    EXPECT_EQ(wordsWith(omitWhitespace | omitPunctuation), (Pieces{"Ada", "Penrose", "sat", "She", "left"}));
-    EXPECT_EQ(wordsWith(omitWords | omitWhitespace), (Pieces{".", "."}));
+    using enum NLTaggerOption;
+    EXPECT_EQ(wordsWith({omitWhitespace, omitPunctuation}), (Pieces{"Ada", "Penrose", "sat", "She", "left"}));
+    EXPECT_EQ(wordsWith({omitWords, omitWhitespace}), (Pieces{".", "."}));
 }
 
 TEST(WordUnits, leaveOutWordsOfNoClassWhenAsked) {
     const Paragraph odd{{0, 3}, {{.range = {0, 3}, .pos = X, .startsSentence = true}}};
-    EXPECT_TRUE(wordsOf(odd, "qzx", lexical, NLTaggerOptions::omitOther).empty());
-    EXPECT_EQ(wordsOf(odd, "qzx", lexical, NLTaggerOptions::omitWords).size(), 1U);
+    EXPECT_TRUE(wordsOf(odd, "qzx", lexical, {NLTaggerOption::omitOther}).empty());
+    EXPECT_EQ(wordsOf(odd, "qzx", lexical, {NLTaggerOption::omitWords}).size(), 1U);
 }
 
 TEST(WordUnits, joinTheWordsOfANameWhenAsked) {
-    using enum NLTaggerOptions;
-    EXPECT_EQ(wordsWith(joinNames | omitWhitespace), (Pieces{"Ada Penrose", "sat", ".", "She", "left", "."}));
-    EXPECT_EQ(wordsOf(paragraph(), text, lexical, joinNames).front().tag, "PersonalName");
+    using enum NLTaggerOption;
+    EXPECT_EQ(wordsWith({joinNames, omitWhitespace}),
+              (Pieces{"Ada Penrose", "sat", ".", "She", "left", "."}));
+    EXPECT_EQ(wordsOf(paragraph(), text, lexical, {joinNames}).front().tag, "PersonalName");
 }
 
 TEST(WordUnits, keepTwoNamesThatFollowEachOtherApart) {
@@ -90,7 +91,7 @@ TEST(WordUnits, keepTwoNamesThatFollowEachOtherApart) {
                           {{.range = {0, 3}, .name = NameType::person, .startsName = true},
                            {.range = {3, 1}, .kind = TokenKind::whitespace},
                            {.range = {4, 3}, .name = NameType::person, .startsName = true}}};
-    EXPECT_EQ(wordsOf(names, "Ada Bob", lexical, NLTaggerOptions::joinNames).size(), 3U);
+    EXPECT_EQ(wordsOf(names, "Ada Bob", lexical, {NLTaggerOption::joinNames}).size(), 3U);
 }
 
 TEST(SentenceUnits, coverTheParagraphWithTheTagOfTheirFirstWord) {
