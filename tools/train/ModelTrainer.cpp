@@ -85,9 +85,12 @@ Data dataOf(const std::vector<WeightedCorpus>& corpora, const std::vector<PosOfW
 std::vector<std::int16_t> posTransitionsOf(const ChainTrainer<universalPosCount>& trainer) {
     std::vector<std::int16_t> values;
     for (const auto& rows : trainer.transitions())
-        for (const auto& row : rows)
+        for (const auto& row : rows) {
             for (const float value : row)
-                values.push_back(static_cast<std::int16_t>(ModelWriter::rounded(value * scale, 10000)));
+                values.push_back(
+                    static_cast<std::int16_t>(ModelWriter::rounded(value * scale, largestTransition)));
+            values.resize(values.size() + scoreCount - universalPosCount);
+        }
     return values;
 }
 
@@ -96,7 +99,8 @@ std::vector<std::int16_t> nameTransitionsOf(const ChainTrainer<nameLabelCount>& 
     const auto& rows = trainer.transitions().front();
     for (std::size_t previous = 0; previous < nameLabelCount; ++previous)
         for (const float value : rows[previous])
-            values.push_back(static_cast<std::int16_t>(ModelWriter::rounded(value * scale, 10000)));
+            values.push_back(
+                static_cast<std::int16_t>(ModelWriter::rounded(value * scale, largestTransition)));
     return values;
 }
 
