@@ -14,7 +14,7 @@ constexpr int leadingInset = 30; // a status bar itself adds the rest to the win
 
 StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent), label_(new QLabel(this)) {
     setSizeGripEnabled(false);
-    setFixedHeight(lineHeight);
+    setMinimumHeight(lineHeight);
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() - 1);
     label_->setFont(font);
@@ -25,7 +25,7 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent), label_(new QLabel(
 
 void StatusLine::showParsed(std::int64_t words) {
     if (words == 0)
-        label_->setText(tr("No words"));
+        label_->setText(tr("Parsed"));
     else if (words == 1)
         label_->setText(tr("1 word, parsed"));
     else
