@@ -20,9 +20,9 @@ constexpr std::array abbreviations = {
 constexpr std::array abbreviationsBeforeNumbers = {
     "app"sv, "art"sv, "ca"sv,  "ch"sv, "chap"sv, "ed"sv, "ext"sv, "fig"sv, "figs"sv, "jul"sv, "jun"sv,
     "mar"sv, "no"sv,  "nos"sv, "p"sv,  "pg"sv,   "pp"sv, "sec"sv, "ver"sv, "vol"sv,  "vols"sv};
-constexpr std::array abbreviationsInsideSentences = {"etc"sv,  "fri"sv, "hrs"sv,  "mon"sv,   "sat"sv,
-                                                     "sun"sv,  "thu"sv, "thur"sv, "thurs"sv, "tue"sv,
-                                                     "tues"sv, "v"sv,   "wed"sv,  "yrs"sv};
+constexpr std::array abbreviationsInsideSentences = {"etc"sv, "hrs"sv, "v"sv, "yrs"sv};
+constexpr std::array dayNames = {"fri"sv,  "mon"sv,   "sat"sv, "sun"sv,  "thu"sv,
+                                 "thur"sv, "thurs"sv, "tue"sv, "tues"sv, "wed"sv};
 constexpr std::array titles = {"adm"sv, "atty"sv,   "brig"sv, "capt"sv, "cmdr"sv, "col"sv,   "cpl"sv,
                                "dr"sv,  "ft"sv,     "gen"sv,  "gov"sv,  "hon"sv,  "lieut"sv, "lt"sv,
                                "maj"sv, "messrs"sv, "mlle"sv, "mme"sv,  "mr"sv,   "mrs"sv,   "ms"sv,
@@ -34,9 +34,12 @@ constexpr std::array prefixes = {
     "mid"sv,  "mini"sv,  "multi"sv,  "neo"sv,     "non"sv,   "over"sv,  "post"sv, "pre"sv,
     "pro"sv,  "proto"sv, "pseudo"sv, "psycho"sv,  "quasi"sv, "re"sv,    "semi"sv, "socio"sv,
     "sub"sv,  "super"sv, "trans"sv,  "tri"sv,     "ultra"sv, "un"sv,    "under"sv};
-constexpr std::array units = {"am"sv, "cm"sv,  "ft"sv, "g"sv,   "gb"sv, "hr"sv,  "hrs"sv, "k"sv,   "kb"sv,
-                              "kg"sv, "km"sv,  "lb"sv, "lbs"sv, "m"sv,  "mb"sv,  "mg"sv,  "min"sv, "ml"sv,
-                              "mm"sv, "mph"sv, "oz"sv, "pm"sv,  "px"sv, "sec"sv, "x"sv,   "yr"sv,  "yrs"sv};
+constexpr std::array units = {"am"sv, "b"sv,   "billion"sv, "bn"sv,      "c"sv,     "cm"sv,      "days"sv,
+                              "f"sv,  "ft"sv,  "g"sv,       "gb"sv,      "hours"sv, "hr"sv,      "hrs"sv,
+                              "k"sv,  "kb"sv,  "kg"sv,      "km"sv,      "lb"sv,    "lbs"sv,     "m"sv,
+                              "mb"sv, "mg"sv,  "million"sv, "min"sv,     "mins"sv,  "minutes"sv, "ml"sv,
+                              "mm"sv, "mph"sv, "oz"sv,      "percent"sv, "pm"sv,    "px"sv,      "sec"sv,
+                              "t"sv,  "x"sv,   "years"sv,   "yr"sv,      "yrs"sv};
 constexpr std::array networkEndings = {
     "asp"sv,  "au"sv,   "biz"sv,  "ca"sv,   "ch"sv,   "co"sv,  "com"sv, "cpp"sv,  "css"sv, "csv"sv,
     "de"sv,   "doc"sv,  "docx"sv, "edu"sv,  "eu"sv,   "exe"sv, "fr"sv,  "gif"sv,  "gov"sv, "htm"sv,
@@ -52,16 +55,13 @@ struct Contraction {
 
 // "cant" and "wont" are words of their own too, but hardly ever meant.
 constexpr std::array contractions = {
-    Contraction{"aint", 2},   Contraction{"arent", 3},    Contraction{"cannot", 3},
-    Contraction{"cant", 2},   Contraction{"couldnt", 5},  Contraction{"didnt", 3},
-    Contraction{"doesnt", 4}, Contraction{"dont", 2},     Contraction{"gonna", 3},
-    Contraction{"gotta", 3},  Contraction{"hadnt", 3},    Contraction{"hasnt", 3},
-    Contraction{"havent", 4}, Contraction{"im", 1},       Contraction{"isnt", 2},
-    Contraction{"ive", 1},    Contraction{"kinda", 4},    Contraction{"lotta", 3},
-    Contraction{"outta", 3},  Contraction{"shouldnt", 6}, Contraction{"thats", 4},
-    Contraction{"theres", 5}, Contraction{"theyre", 4},   Contraction{"wanna", 3},
-    Contraction{"wasnt", 3},  Contraction{"wont", 2},     Contraction{"wouldnt", 5},
-    Contraction{"youre", 3}};
+    Contraction{"aint", 2},    Contraction{"arent", 3},   Contraction{"cannot", 3},   Contraction{"cant", 2},
+    Contraction{"couldnt", 5}, Contraction{"didnt", 3},   Contraction{"doesnt", 4},   Contraction{"dont", 2},
+    Contraction{"gonna", 3},   Contraction{"gotta", 3},   Contraction{"hadnt", 3},    Contraction{"hasnt", 3},
+    Contraction{"havent", 4},  Contraction{"im", 1},      Contraction{"isnt", 2},     Contraction{"ive", 1},
+    Contraction{"lotta", 3},   Contraction{"outta", 3},   Contraction{"shouldnt", 6}, Contraction{"thats", 4},
+    Contraction{"theres", 5},  Contraction{"theyre", 4},  Contraction{"wanna", 3},    Contraction{"wasnt", 3},
+    Contraction{"wont", 2},    Contraction{"wouldnt", 5}, Contraction{"youre", 3}};
 
 constexpr bool orderedByWord(const Contraction& a, const Contraction& b) {
     return a.word < b.word;
@@ -70,6 +70,7 @@ constexpr bool orderedByWord(const Contraction& a, const Contraction& b) {
 static_assert(std::is_sorted(abbreviations.begin(), abbreviations.end()));
 static_assert(std::is_sorted(abbreviationsBeforeNumbers.begin(), abbreviationsBeforeNumbers.end()));
 static_assert(std::is_sorted(abbreviationsInsideSentences.begin(), abbreviationsInsideSentences.end()));
+static_assert(std::is_sorted(dayNames.begin(), dayNames.end()));
 static_assert(std::is_sorted(titles.begin(), titles.end()));
 static_assert(std::is_sorted(prefixes.begin(), prefixes.end()));
 static_assert(std::is_sorted(units.begin(), units.end()));
@@ -88,6 +89,11 @@ bool isAbbreviationBeforeNumber(std::string_view word) {
 
 bool isAbbreviationInsideSentence(std::string_view word) {
     return holds(abbreviationsInsideSentences, LowerCasedWord(word).view());
+}
+
+bool isDayName(std::string_view word) {
+    // "sat" and "sun" in small letters are words of their own.
+    return isAsciiUpper(word.front()) && holds(dayNames, LowerCasedWord(word).view());
 }
 
 bool isTitleAbbreviation(std::string_view word) {

@@ -14,6 +14,8 @@ namespace lexiform::linguistics {
 [[nodiscard]] bool isAbbreviationBeforeNumber(std::string_view word);
 /// Whether a full stop after `word` belongs to it unless the sentence ends there ("etc").
 [[nodiscard]] bool isAbbreviationInsideSentence(std::string_view word);
+/// Whether a capitalised short name of a day ("Mon", "Thurs"), which keeps its full stop.
+[[nodiscard]] bool isDayName(std::string_view word);
 /// Whether a title or the like, after which a name follows and no sentence starts ("Mr.", "St.").
 [[nodiscard]] bool isTitleAbbreviation(std::string_view word);
 /// Whether `prefix` keeps its hyphen and the word after it ("non-", "e-").

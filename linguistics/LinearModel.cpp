@@ -10,7 +10,7 @@ namespace lexiform::linguistics {
 
 namespace {
 
-constexpr std::size_t transitionsPerClass = (universalPosCount + 1) * universalPosCount;
+constexpr std::size_t transitionsPerClass = (universalPosCount + 1) * scoreCount;
 
 /// Reads a file's header and finds its sections; remembers the first thing that is wrong.
 class Reader {
@@ -79,7 +79,16 @@ Outcome<LinearModel, std::string> LinearModel::over(std::span<const std::byte> b
     if (!reader.fault().empty()) return reader.fault();
     for (const std::string& fault : {model.faultInLexicon(), model.faultInWeights()})
         if (!fault.empty()) return fault;
+    model.makeFilter();
     return model;
+}
+
+void LinearModel::makeFilter() {
+    bucketCount_ = bucketStarts_.size() - 1;
+    filter_.assign(bucketCount_, 0);
+    for (std::size_t bucket = 0; bucket < bucketCount_; ++bucket)
+        for (std::uint32_t i = bucketStarts_[bucket]; i < bucketStarts_[bucket + 1]; ++i)
+            filter_[bucket] |= std::uint32_t{1} << (weights_[i].check / (65536 / filterShares));
 }
 
 std::string LinearModel::faultInLexicon() const {
@@ -101,6 +110,12 @@ std::string LinearModel::faultInWeights() const {
     if (bucketStarts_.front() != 0 || bucketStarts_.back() != weights_.size() ||
         !std::is_sorted(bucketStarts_.begin(), bucketStarts_.end()))
         return "the buckets do not cover the weights";
+    const auto tooLarge = [](std::int16_t value) {
+        return value > largestTransition || value < -largestTransition;
+    };
+    if (std::any_of(posTransitions_.begin(), posTransitions_.end(), tooLarge) ||
+        std::any_of(nameTransitions_.begin(), nameTransitions_.end(), tooLarge))
+        return "a transition is too large";
     const bool known = std::all_of(weights_.begin(), weights_.end(),
                                    [](const WeightRecord& record) { return record.label < labelCount; });
     return known ? "" : "a weight is for no label";

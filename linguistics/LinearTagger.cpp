@@ -1,11 +1,20 @@
 #include "linguistics/LinearTagger.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace lexiform::linguistics {
 
-LinearTagger::LinearTagger(const LinearModel& model) : model_(model), cache_(model) {}
+LinearTagger::LinearTagger(const LinearModel& model) : model_(model), cache_(model) {
+    for (std::size_t previous = 0; previous <= nameLabelCount; ++previous) {
+        // What stands before a sentence is outside every name.
+        const std::size_t before = previous == nameLabelCount ? 0 : previous;
+        for (std::size_t label = 0; label < nameLabelCount; ++label) {
+            const bool allowed = mayFollow(static_cast<NameLabel>(before), static_cast<NameLabel>(label));
+            nameTransitions_[previous][label] =
+                allowed ? model.nameTransition(before)[label] : NameDecoder::forbidden;
+        }
+    }
+}
 
 LexiconEntry LinearTagger::entryOf(std::string_view word) {
     cache_.makeRoom(1);
@@ -13,13 +22,24 @@ LexiconEntry LinearTagger::entryOf(std::string_view word) {
 }
 
 void LinearTagger::tag(std::span<const std::string_view> words, std::span<WordLabels> labels) {
-    if (words.empty()) return;
-    scoreWords(words);
+    lookUp(words);
+    scoreWords();
     tagPartsOfSpeech(labels);
     const auto isProper = [](const WordLabels& label) { return label.pos == UniversalPos::PROPN; };
     if (std::none_of(labels.begin(), labels.end(), isProper)) return;
     addNameFeatures(labels);
     tagNames(labels);
+}
+
+void LinearTagger::lookUp(std::span<const std::string_view> words) {
+    cache_.makeRoom(words.size());
+    indices_.assign(words.size() + 2 * contextReach, WordCache::boundary());
+    std::vector<Casing> casings(words.size());
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        indices_[i + contextReach] = cache_.indexOf(words[i]);
+        casings[i] = cache_[indices_[i + contextReach]].traits.casing;
+    }
+    sentence_ = sentenceTraitsOf(casings);
 }
 
 Context LinearTagger::contextAt(std::size_t word) const {
@@ -29,56 +49,31 @@ Context LinearTagger::contextAt(std::size_t word) const {
     return context;
 }
 
-void LinearTagger::scoreWords(std::span<const std::string_view> words) {
-    cache_.makeRoom(words.size());
-    indices_.assign(words.size() + 2 * contextReach, WordCache::boundary());
-    std::vector<Casing> casings(words.size());
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        indices_[i + contextReach] = cache_.indexOf(words[i]);
-        casings[i] = cache_[indices_[i + contextReach]].traits.casing;
-    }
-    const SentenceTraits sentence = sentenceTraitsOf(casings);
-    scores_.assign(words.size(), Scores{});
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        Scores& scores = scores_[i];
+void LinearTagger::scoreWords() {
+    scores_.resize(indices_.size() - 2 * contextReach);
+    for (std::size_t i = 0; i < scores_.size(); ++i) {
+        ScoredWord::Scores sums{};
         for (std::size_t place = 0; place < 2 * contextReach + 1; ++place) {
             const ScoredWord::Scores& known = cache_[indices_[i + place]].scores[place];
-            for (std::size_t label = 0; label < scores.size(); ++label)
-                scores[label] += known[label];
+            for (std::size_t label = 0; label < sums.size(); ++label)
+                sums[label] = static_cast<std::int16_t>(sums[label] + known[label]);
         }
-        forEachContextFeature(contextAt(i), i == 0, sentence,
-                              [&](std::uint64_t feature) { model_.add(feature, scores.data()); });
+        forEachContextFeature(contextAt(i), i == 0, sentence_,
+                              [&](std::uint64_t feature) { model_.add(feature, sums.data()); });
+        scores_[i] = sums;
     }
 }
 
 void LinearTagger::tagPartsOfSpeech(std::span<WordLabels> labels) {
-    const std::size_t count = labels.size();
-    back_.resize(count);
-    std::array<std::int32_t, universalPosCount> best{};
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::uint8_t ambiguity = cache_[indices_[i + contextReach]].traits.entry.ambiguity;
-        std::array<std::int32_t, universalPosCount> next{};
-        if (i == 0) {
-            const std::int16_t* start = model_.posTransition(ambiguity, universalPosCount);
-            std::copy(start, start + universalPosCount, next.begin());
-        } else {
-            next.fill(std::numeric_limits<std::int32_t>::min());
-            for (std::size_t previous = 0; previous < universalPosCount; ++previous) {
-                const std::int16_t* step = model_.posTransition(ambiguity, previous);
-                for (std::size_t pos = 0; pos < universalPosCount; ++pos) {
-                    const std::int32_t score = best[previous] + step[pos];
-                    const bool better = score > next[pos];
-                    next[pos] = better ? score : next[pos];
-                    back_[i][pos] = better ? static_cast<std::uint8_t>(previous) : back_[i][pos];
-                }
-            }
-        }
-        for (std::size_t pos = 0; pos < universalPosCount; ++pos)
-            best[pos] = next[pos] + scores_[i][pos];
-    }
-    auto pos = static_cast<std::uint8_t>(std::max_element(best.begin(), best.end()) - best.begin());
-    for (std::size_t i = count; i-- > 0; pos = back_[i][pos])
-        labels[i].pos = static_cast<UniversalPos>(pos);
+    best_.resize(labels.size());
+    const auto emission = [&](std::size_t word) { return scores_[word].data(); };
+    const auto transition = [&](std::size_t word, std::size_t previous) {
+        const std::uint8_t ambiguity = cache_[indices_[word + contextReach]].traits.entry.ambiguity;
+        return model_.posTransition(ambiguity, previous);
+    };
+    posDecoder_.decode(emission, transition, best_);
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        labels[i] = {static_cast<UniversalPos>(best_[i]), NameLabel::outside};
 }
 
 void LinearTagger::addNameFeatures(std::span<const WordLabels> labels) {
@@ -90,29 +85,13 @@ void LinearTagger::addNameFeatures(std::span<const WordLabels> labels) {
 }
 
 void LinearTagger::tagNames(std::span<WordLabels> labels) {
-    constexpr std::int32_t impossible = std::numeric_limits<std::int32_t>::min() / 2;
-    const std::size_t count = labels.size();
-    std::array<std::int32_t, nameLabelCount> best;
-    best.fill(impossible);
-    best[0] = 0; // what stands before a sentence is outside every name
-    for (std::size_t i = 0; i < count; ++i) {
-        std::array<std::int32_t, nameLabelCount> next;
-        for (std::size_t label = 0; label < nameLabelCount; ++label) {
-            next[label] = impossible;
-            for (std::size_t previous = 0; previous < nameLabelCount; ++previous) {
-                if (!mayFollow(static_cast<NameLabel>(previous), static_cast<NameLabel>(label))) continue;
-                const std::int32_t score = best[previous] + model_.nameTransition(previous)[label];
-                if (score <= next[label]) continue;
-                next[label] = score;
-                back_[i][label] = static_cast<std::uint8_t>(previous);
-            }
-            next[label] = std::max(next[label] + scores_[i][universalPosCount + label], impossible);
-        }
-        best = next;
-    }
-    auto label = static_cast<std::uint8_t>(std::max_element(best.begin(), best.end()) - best.begin());
-    for (std::size_t i = count; i-- > 0; label = back_[i][label])
-        labels[i].name = static_cast<NameLabel>(label);
+    const auto emission = [&](std::size_t word) { return scores_[word].data() + universalPosCount; };
+    const auto transition = [&](std::size_t, std::size_t previous) {
+        return nameTransitions_[previous].data();
+    };
+    nameDecoder_.decode(emission, transition, best_);
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        labels[i].name = static_cast<NameLabel>(best_[i]);
 }
 
 SentenceTraits sentenceTraitsOf(std::span<const Casing> casings) {

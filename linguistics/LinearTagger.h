@@ -1,5 +1,6 @@
 #pragma once
 
+#include "linguistics/ChainDecoder.h"
 #include "linguistics/LinearModel.h"
 #include "linguistics/SequenceModel.h"
 #include "linguistics/WordCache.h"
@@ -24,9 +25,11 @@ public:
     [[nodiscard]] LexiconEntry entryOf(std::string_view word) override;
 
 private:
-    using Scores = std::array<std::int32_t, 24>;
+    using PosDecoder = ChainDecoder<universalPosCount, scoreCount>;
+    using NameDecoder = ChainDecoder<nameLabelCount, 8>;
 
-    void scoreWords(std::span<const std::string_view> words);
+    void lookUp(std::span<const std::string_view> words);
+    void scoreWords();
     [[nodiscard]] Context contextAt(std::size_t word) const;
     void tagPartsOfSpeech(std::span<WordLabels> labels);
     void addNameFeatures(std::span<const WordLabels> labels);
@@ -34,10 +37,14 @@ private:
 
     const LinearModel& model_;
     WordCache cache_;
-    // Kept between sentences for their memory only.
+    PosDecoder posDecoder_;
+    NameDecoder nameDecoder_;
+    std::array<NameDecoder::Row, nameLabelCount + 1> nameTransitions_{};
+    // Of the sentence at hand; kept between sentences for their memory only.
     std::vector<std::uint32_t> indices_; ///< of the words, with boundaries on both sides
-    std::vector<Scores> scores_;
-    std::vector<std::array<std::uint8_t, 24>> back_;
+    SentenceTraits sentence_;
+    std::vector<std::array<std::int16_t, scoreCount>> scores_;
+    std::vector<std::uint8_t> best_;
 };
 
 /// Whether a sentence's capitals tell names from other words: not so in headings and shouting.

@@ -59,6 +59,14 @@ static_assert(sizeof(WeightRecord) == 4);
 
 inline constexpr std::size_t labelCount = universalPosCount + nameLabelCount;
 
+/// Scores of labels and rows of transitions have this many places, whole vector registers; those past
+/// the labels are zero in a file and mean nothing.
+inline constexpr std::size_t scoreCount = 24;
+static_assert(labelCount <= scoreCount);
+
+/// No transition in a file is further from zero, so that sums of a few scores fit 16 bits.
+inline constexpr int largestTransition = 4000;
+
 /// The bucket of a feature among `count`, a power of two.
 [[nodiscard]] constexpr std::size_t bucketOf(std::uint64_t feature, std::size_t count) {
     return static_cast<std::size_t>(feature >> 32) & (count - 1);

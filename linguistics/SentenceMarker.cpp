@@ -5,7 +5,9 @@
 #include "linguistics/EnglishWords.h"
 #include "linguistics/LineWrapping.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace lexiform::linguistics {
 
@@ -136,11 +138,29 @@ private:
         while (next < tokens_.size() && !isGap(next) && tokens_[next].kind == TokenKind::punctuation &&
                isClosing(firstOf(word(next))))
             quoted = isQuote(firstOf(word(next++))) || quoted;
+        next = skipCitations(next);
         const std::size_t follower = skipGaps(next);
         if (follower == tokens_.size()) return next;
         const bool gap = follower > next;
         if (gap ? endsBefore(ending, i, follower, quoted) : ending == Ending::wide) starts_ = true;
         return next;
+    }
+
+    // "[12]" after a full stop tells the source of the sentence before it.
+    std::size_t skipCitations(std::size_t i) const {
+        while (true) {
+            const std::size_t start = skipGaps(i);
+            const bool cites = start + 2 < tokens_.size() && word(start) == "[" && word(start + 2) == "]" &&
+                               isAsciiDigit(word(start + 1).front()) && !passesLineBreak(i, start);
+            if (!cites) return i;
+            i = start + 3;
+        }
+    }
+
+    bool passesLineBreak(std::size_t from, std::size_t to) const {
+        return std::any_of(tokens_.begin() + static_cast<std::ptrdiff_t>(from),
+                           tokens_.begin() + static_cast<std::ptrdiff_t>(to),
+                           [](const Token& token) { return token.kind == TokenKind::lineBreak; });
     }
 
     std::size_t skipGaps(std::size_t i) const {
@@ -155,7 +175,7 @@ private:
         const bool low = isLowerCase(first);
         switch (ending) {
         case Ending::fullStop:
-            return !low || (i > 0 && tokens_[i - 1].range.length > 3 && !quoted);
+            return !low || (i > 0 && tokens_[i - 1].range.length > 2 && !quoted);
         case Ending::ellipsis:
             return isUpperCase(first);
         case Ending::emphatic:

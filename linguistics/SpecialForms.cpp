@@ -142,6 +142,19 @@ std::size_t lengthOfEnclitic(std::string_view chunk) {
     return lengthAfterApostrophe(enclitics, chunk);
 }
 
+std::size_t lengthOfMarkedFigure(std::string_view chunk) {
+    if (chunk.size() < 2 || (chunk[0] != '.' && chunk[0] != '+') || !isAsciiDigit(chunk[1])) return 0;
+    std::size_t end = 1;
+    while (end < chunk.size() && isAsciiDigit(chunk[end]))
+        ++end;
+    return endsWord(chunk, end) ? end : 0;
+}
+
+bool isBrokenOff(std::string_view chunk) {
+    return chunk.size() >= 2 && chunk.size() <= 3 && chunk.back() == '-' &&
+           std::all_of(chunk.begin(), chunk.end() - 1, isAsciiLetter);
+}
+
 std::size_t lengthOfApostrophe(std::string_view text) {
     if (text.empty()) return 0;
     if (text[0] == '\'' || text[0] == '`') return 1;

@@ -20,6 +20,12 @@ namespace lexiform::linguistics {
 /// The bytes of the enclitic with which `chunk` starts, apostrophe included ("'s", "’ll"), 0 if none.
 [[nodiscard]] std::size_t lengthOfEnclitic(std::string_view chunk);
 
+/// The bytes of a figure that starts with a mark (".25", "+44"), 0 if none.
+[[nodiscard]] std::size_t lengthOfMarkedFigure(std::string_view chunk);
+
+/// Whether `chunk` is a word broken off ("th-", "s-"), as speech is written down.
+[[nodiscard]] bool isBrokenOff(std::string_view chunk);
+
 /// The bytes of the apostrophe with which `text` starts, 0 if none.
 [[nodiscard]] std::size_t lengthOfApostrophe(std::string_view text);
 

@@ -60,6 +60,12 @@ bool continuesRun(char32_t first, char32_t next) {
     return next == first;
 }
 
+// "1960's", "80's": one word, as "1960s" is.
+bool isDecade(std::string_view figure, std::string_view tail) {
+    return tail == "s" && (figure.size() == 2 || figure.size() == 4) && figure.back() == '0' &&
+           std::all_of(figure.begin(), figure.end(), isAsciiDigit);
+}
+
 // "do|n't", "it|'s": where the enclitic of a word starts, or the word's length if it has none.
 std::size_t startOfEnclitic(std::string_view word) {
     const std::size_t mark = word.find_last_of("'`\x99\xB4");
@@ -71,6 +77,7 @@ std::size_t startOfEnclitic(std::string_view word) {
     const std::size_t length = lengthOfApostrophe(word.substr(start));
     if (length == 0) return word.size();
     const std::string_view tail = word.substr(start + length);
+    if (isDecade(word.substr(0, start), tail)) return word.size();
     if (tail.size() == 1 && asciiLower(tail[0]) == 't' && start > 1 && asciiLower(word[start - 1]) == 'n')
         return start - 1;
     return lengthOfEnclitic(word.substr(start)) == length + tail.size() ? start : word.size();
@@ -176,6 +183,8 @@ bool Tokeniser::takeSpecialForm(std::size_t chunkStart, std::size_t chunkEnd) {
     if (startsChunk || !isAsciiAlnum(rest[0])) {
         if (takeToken(lengthOfEmoticon(rest, startsChunk), TokenKind::symbol)) return true;
     }
+    if (!afterWord && takeToken(lengthOfMarkedFigure(rest), TokenKind::word)) return true;
+    if (startsChunk && isBrokenOff(rest)) return takeToken(rest.size(), TokenKind::word);
     if (lengthOfApostrophe(rest) == 0) return false;
     if (!startsChunk && takeToken(lengthOfEnclitic(rest), TokenKind::word)) return true;
     return takeToken(lengthOfElision(rest), TokenKind::word);

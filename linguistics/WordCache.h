@@ -15,9 +15,7 @@ namespace lexiform::linguistics {
 /// What a linear model says of a word by itself, worked out once: its traits, and for each place that
 /// it may have beside the word being labelled the sum of its features' weights.
 struct ScoredWord {
-    /// One score per label, padded to whole vector registers.
-    using Scores = std::array<std::int16_t, 24>;
-    static_assert(labelCount <= std::tuple_size_v<Scores>);
+    using Scores = std::array<std::int16_t, scoreCount>;
 
     WordTraits traits;
     std::array<Scores, 2 * contextReach + 1> scores{}; ///< by place, from `contextReach` before

@@ -195,6 +195,7 @@ bool WordScanner::keepsFullStop(std::size_t end) const {
         return true;
     if (word.size() == 1) return isAsciiUpper(word[0]) && word[0] != 'I' && isAsciiUpper(next);
     if (isAbbreviation(word)) return true;
+    if (isDayName(word)) return next != '\0';
     if (isAbbreviationBeforeNumber(word)) return isAsciiDigit(next);
     return isAbbreviationInsideSentence(word) && next != '\0' && !isAsciiUpper(next);
 }

@@ -12,10 +12,10 @@
 #include "platform/qt/theme/Theme.h"
 #include "platform/qt/windows/StateStore.h"
 #include "platform/qt/windows/documentScene.h"
+#include "platform/qt/windows/messageBox.h"
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QStandardPaths>
 
 #include <cstdlib>
@@ -45,10 +45,9 @@ QStringList chooseFiles() {
 void tellOfMissingModel(const linguistics::ModelStore& models) {
     const auto outcome = models.check("en");
     if (outcome.succeeded()) return;
-    auto* box = new QMessageBox(QMessageBox::Warning, QObject::tr("Lexiform"),
-                                QString::fromStdString(englishModelMessage(outcome.fault())), QMessageBox::Ok,
-                                QApplication::activeWindow());
-    box->setTextFormat(Qt::PlainText);
+    auto* box = new QMessageBox(QApplication::activeWindow());
+    qt::fillMessageBox(*box, QString::fromStdString(englishModelMessage(outcome.fault())),
+                       QObject::tr("Words are shown without the colours of their classes."));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }

@@ -25,6 +25,9 @@ constexpr std::size_t mostFamilyNames = 15000;
 constexpr std::size_t tooCommonForCities = 3000;
 constexpr std::size_t shortestCity = 4;
 
+// Text whose parts of speech are worked out from other tags, by other guidelines, counts this much.
+constexpr float silverWeight = 0.3F;
+
 using Fault = std::optional<std::string>;
 
 Fault eachLine(const fs::path& file, const std::function<void(std::string_view)>& take) {
@@ -44,12 +47,13 @@ bool isSound(const GoldSentence& sentence) {
     });
 }
 
-Fault addTaggedText(const fs::path& file, LexiconBuilder& lexicon) {
+Fault addTaggedText(const fs::path& file, Sources& sources, LexiconBuilder& lexicon) {
     auto read = readConllu(file);
     if (!read.succeeded()) return read.fault();
     Corpus corpus = std::move(read).value();
     std::erase_if(corpus, [](const GoldSentence& sentence) { return !isSound(sentence); });
     lexicon.addTaggedText(corpus);
+    sources.silver.push_back({std::move(corpus), silverWeight});
     return std::nullopt;
 }
 
@@ -124,11 +128,12 @@ Fault addPlaces(const fs::path& file, const std::vector<std::string>& commonest,
     });
 }
 
-Fault fillLexicon(const fs::path& folder, LexiconBuilder& lexicon) {
+Fault fillLexicon(const fs::path& folder, Sources& sources, LexiconBuilder& lexicon) {
     const fs::path lists = folder / "en" / "lexicon";
     const fs::path places = folder / "mul" / "gazetteers";
     std::vector<std::string> commonest;
-    if (Fault fault = addTaggedText(folder / "en" / "en_masc-train.penn.conllu", lexicon)) return fault;
+    if (Fault fault = addTaggedText(folder / "en" / "en_masc-train.penn.conllu", sources, lexicon))
+        return fault;
     if (Fault fault = addLemmaIndex(lists / "en_lemma_index.json", lexicon)) return fault;
     if (Fault fault = addInflections(lists / "unimorph_eng.tsv", lexicon)) return fault;
     if (Fault fault = addFrequentWords(lists / "frequency_en_50k.txt", lexicon, commonest)) return fault;
@@ -174,7 +179,7 @@ Fault fillCorpora(const fs::path& folder, Sources& sources) {
 Outcome<Sources, std::string> englishSources(const fs::path& folder) {
     Sources sources;
     LexiconBuilder lexicon;
-    if (Fault fault = fillLexicon(folder, lexicon)) return *fault;
+    if (Fault fault = fillLexicon(folder, sources, lexicon)) return *fault;
     if (Fault fault = fillCorpora(folder / "en", sources)) return *fault;
     sources.lexicon = lexicon.build();
     sources.transitionClasses = LexiconBuilder::classCount();

@@ -36,9 +36,12 @@ void FeatureTable::grow() {
 
 void FeatureTable::number(std::uint32_t least) {
     for (Slot& slot : slots_) {
-        const bool kept = slot.used && slot.value >= least;
-        slot.value = kept ? static_cast<std::uint32_t>(features_.size()) : none;
-        if (kept) features_.push_back(slot.feature);
+        const std::uint32_t count = slot.used ? slot.value : 0;
+        slot.value = none;
+        if (count < least) continue;
+        slot.value = static_cast<std::uint32_t>(features_.size());
+        features_.push_back(slot.feature);
+        counts_.push_back(count);
     }
 }
 

@@ -22,6 +22,8 @@ public:
     [[nodiscard]] std::uint32_t find(std::uint64_t feature) const;
     /// The numbered features, by number.
     [[nodiscard]] const std::vector<std::uint64_t>& features() const { return features_; }
+    /// How often each numbered feature was counted.
+    [[nodiscard]] const std::vector<std::uint32_t>& counts() const { return counts_; }
 
 private:
     struct Slot {
@@ -36,6 +38,7 @@ private:
     std::vector<Slot> slots_;
     std::size_t used_ = 0;
     std::vector<std::uint64_t> features_;
+    std::vector<std::uint32_t> counts_;
 };
 
 } // namespace lexiform::train

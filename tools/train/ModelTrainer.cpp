@@ -4,6 +4,7 @@
 #include "tools/train/ChainTrainer.h"
 #include "tools/train/FeatureExtractor.h"
 #include "tools/train/FeatureTable.h"
+#include "tools/train/FineTagMap.h"
 #include "tools/train/ModelWriter.h"
 
 #include <cstdlib>
@@ -20,6 +21,9 @@ constexpr std::uint32_t leastCount = 2;
 
 constexpr ChainOptions posOptions{
     .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 1};
+// For the first model, which only serves to tag more text.
+constexpr ChainOptions firstOptions{
+    .epochs = 5, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 3};
 constexpr ChainOptions nameOptions{
     .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 2};
 
@@ -85,9 +89,12 @@ Data dataOf(const std::vector<WeightedCorpus>& corpora, const std::vector<PosOfW
 std::vector<std::int16_t> posTransitionsOf(const ChainTrainer<universalPosCount>& trainer) {
     std::vector<std::int16_t> values;
     for (const auto& rows : trainer.transitions())
-        for (const auto& row : rows)
+        for (const auto& row : rows) {
             for (const float value : row)
-                values.push_back(static_cast<std::int16_t>(ModelWriter::rounded(value * scale, 10000)));
+                values.push_back(
+                    static_cast<std::int16_t>(ModelWriter::rounded(value * scale, largestTransition)));
+            values.resize(values.size() + scoreCount - universalPosCount);
+        }
     return values;
 }
 
@@ -96,7 +103,8 @@ std::vector<std::int16_t> nameTransitionsOf(const ChainTrainer<nameLabelCount>& 
     const auto& rows = trainer.transitions().front();
     for (std::size_t previous = 0; previous < nameLabelCount; ++previous)
         for (const float value : rows[previous])
-            values.push_back(static_cast<std::int16_t>(ModelWriter::rounded(value * scale, 10000)));
+            values.push_back(
+                static_cast<std::int16_t>(ModelWriter::rounded(value * scale, largestTransition)));
     return values;
 }
 
@@ -109,17 +117,19 @@ bool nameMayNotFollow(std::size_t previous, std::size_t next) {
     return !mayFollow(static_cast<NameLabel>(before), static_cast<NameLabel>(next));
 }
 
-void trainPos(const Sources& sources, FeatureExtractor& extractor, ModelWriter& writer, std::ostream& log) {
+void trainPos(const std::vector<WeightedCorpus>& corpora, const ChainOptions& options,
+              std::size_t transitionClasses, FeatureExtractor& extractor, ModelWriter& writer,
+              std::ostream& log) {
     Data data = dataOf(
-        sources.tagged, nullptr, extractor,
+        corpora, nullptr, extractor,
         [](const GoldToken& token) { return static_cast<std::uint8_t>(*token.pos); }, true);
     log << "parts of speech: " << data.sentences.size() << " sentences, " << data.table.features().size()
         << " features\n";
-    ChainTrainer<universalPosCount> trainer(data.table.features().size(), sources.transitionClasses,
-                                            anyPosMayFollow);
-    trainer.train(data.sentences, posOptions, [&](int epoch) { log << "epoch " << epoch + 1 << std::endl; });
-    writer.addWeights<universalPosCount>(data.table.features(), trainer.weights(), 0, scale, mostPosWeights);
+    ChainTrainer<universalPosCount> trainer(data.table.features().size(), transitionClasses, anyPosMayFollow);
+    trainer.train(data.sentences, options, [&](int epoch) { log << "epoch " << epoch + 1 << std::endl; });
+    writer.addWeights<universalPosCount>(data.table, trainer.weights(), 0, scale, mostPosWeights);
     writer.setPosTransitions(posTransitionsOf(trainer));
+    writer.setNameTransitions(std::vector<std::int16_t>(nameLabelCount * nameLabelCount, 0));
 }
 
 // The parts of speech that the engine will see, which are not always the right ones.
@@ -140,6 +150,32 @@ std::vector<PosOfWords> posBy(const LinearModel& model, const std::vector<Weight
     return all;
 }
 
+std::vector<PosOfWords> posBy(const ModelWriter& writer, const std::vector<WeightedCorpus>& corpora) {
+    const std::vector<std::byte> bytes = writer.bytes();
+    const auto model = LinearModel::over(bytes);
+    if (!model.succeeded()) fatalError(model.fault());
+    return posBy(model.value(), corpora);
+}
+
+// Texts with tags of their own get universal ones from a first model, as far as their tags allow them.
+std::vector<WeightedCorpus> withSilver(const Sources& sources, const ModelWriter& first) {
+    FineTagMap map;
+    for (const WeightedCorpus& corpus : sources.tagged)
+        map.learn(corpus.corpus);
+    std::vector<WeightedCorpus> silver = sources.silver;
+    const std::vector<PosOfWords> guesses = posBy(first, silver);
+    std::size_t number = 0;
+    for (WeightedCorpus& corpus : silver)
+        for (GoldSentence& sentence : corpus.corpus) {
+            const PosOfWords& guess = guesses[number++];
+            for (std::size_t i = 0; i < guess.size(); ++i)
+                sentence.tokens[i].pos = map.resolve(sentence.tokens[i], guess[i]);
+        }
+    std::vector<WeightedCorpus> all = sources.tagged;
+    std::move(silver.begin(), silver.end(), std::back_inserter(all));
+    return all;
+}
+
 void trainNames(const Sources& sources, const std::vector<PosOfWords>& pos, FeatureExtractor& extractor,
                 ModelWriter& writer, std::ostream& log) {
     Data data = dataOf(
@@ -149,7 +185,7 @@ void trainNames(const Sources& sources, const std::vector<PosOfWords>& pos, Feat
         << " features\n";
     ChainTrainer<nameLabelCount> trainer(data.table.features().size(), 1, nameMayNotFollow);
     trainer.train(data.sentences, nameOptions, [&](int epoch) { log << "epoch " << epoch + 1 << std::endl; });
-    writer.addWeights<nameLabelCount>(data.table.features(), trainer.weights(), universalPosCount, scale,
+    writer.addWeights<nameLabelCount>(data.table, trainer.weights(), universalPosCount, scale,
                                       mostNameWeights);
     writer.setNameTransitions(nameTransitionsOf(trainer));
 }
@@ -161,12 +197,11 @@ std::vector<std::byte> trainModel(std::string_view language, const Sources& sour
     ModelWriter writer(language);
     writer.setLexicon(sources.lexicon);
     log << "lexicon: " << sources.lexicon.size() << " words\n";
-    trainPos(sources, extractor, writer, log);
-    writer.setNameTransitions(std::vector<std::int16_t>(nameLabelCount * nameLabelCount, 0));
-    const std::vector<std::byte> posOnly = writer.bytes();
-    const auto model = LinearModel::over(posOnly);
-    if (!model.succeeded()) fatalError(model.fault());
-    trainNames(sources, posBy(model.value(), sources.names), extractor, writer, log);
+    ModelWriter first(language);
+    first.setLexicon(sources.lexicon);
+    trainPos(sources.tagged, firstOptions, sources.transitionClasses, extractor, first, log);
+    trainPos(withSilver(sources, first), posOptions, sources.transitionClasses, extractor, writer, log);
+    trainNames(sources, posBy(writer, sources.names), extractor, writer, log);
     return writer.bytes();
 }
 

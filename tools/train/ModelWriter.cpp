@@ -64,13 +64,18 @@ void ModelWriter::setLexicon(const Lexicon& lexicon) {
     }
 }
 
-void ModelWriter::keepLargest(std::vector<Weight>& weights, std::size_t most) {
-    const auto larger = [](const Weight& a, const Weight& b) {
-        return std::abs(a.value) > std::abs(b.value);
-    };
+std::uint64_t ModelWriter::importance(int value, std::uint32_t count) {
+    // The square of size times the root of the count, which is a whole number on every processor.
+    constexpr std::uint32_t countedUpTo = 200;
+    const auto size = static_cast<std::uint64_t>(std::abs(value));
+    return size * size * std::min(count, countedUpTo);
+}
+
+void ModelWriter::keepMostImportant(std::vector<Weight>& weights, std::size_t most) {
+    const auto moreImportant = [](const Weight& a, const Weight& b) { return a.importance > b.importance; };
     // Stable, so that equal weights fall out the same way everywhere.
     if (weights.size() > most) {
-        std::stable_sort(weights.begin(), weights.end(), larger);
+        std::stable_sort(weights.begin(), weights.end(), moreImportant);
         weights.resize(most);
     }
     weights_.insert(weights_.end(), weights.begin(), weights.end());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "linguistics/ModelFormat.h"
+#include "tools/train/FeatureTable.h"
 #include "tools/train/LexiconBuilder.h"
 
 #include <array>
@@ -20,17 +21,19 @@ public:
     void setLexicon(const Lexicon& lexicon);
 
     /// Adds the weights of one label set; its first label is number `firstLabel` in the file. Weights are
-    /// rounded to 1/`scale`, and of those left the `most` largest are kept.
+    /// rounded to 1/`scale`. Of those left, the `most` that matter most are kept: a weight matters by its
+    /// size and by how often its feature occurs.
     template <std::size_t L>
-    void addWeights(std::span<const std::uint64_t> features, std::span<const std::array<float, L>> rows,
+    void addWeights(const FeatureTable& table, std::span<const std::array<float, L>> rows,
                     std::size_t firstLabel, float scale, std::size_t most) {
         std::vector<Weight> weights;
-        for (std::size_t i = 0; i < features.size(); ++i)
+        for (std::size_t i = 0; i < rows.size(); ++i)
             for (std::size_t label = 0; label < L; ++label)
                 if (const int value = rounded(rows[i][label] * scale, 127); value != 0)
-                    weights.push_back({features[i], static_cast<std::uint8_t>(firstLabel + label),
-                                       static_cast<std::int8_t>(value)});
-        keepLargest(weights, most);
+                    weights.push_back({table.features()[i], static_cast<std::uint8_t>(firstLabel + label),
+                                       static_cast<std::int8_t>(value),
+                                       importance(value, table.counts()[i])});
+        keepMostImportant(weights, most);
     }
 
     void setPosTransitions(std::vector<std::int16_t> transitions) {
@@ -51,9 +54,11 @@ private:
         std::uint64_t feature = 0;
         std::uint8_t label = 0;
         std::int8_t value = 0;
+        std::uint64_t importance = 0;
     };
 
-    void keepLargest(std::vector<Weight>& weights, std::size_t most);
+    [[nodiscard]] static std::uint64_t importance(int value, std::uint32_t count);
+    void keepMostImportant(std::vector<Weight>& weights, std::size_t most);
 
     std::string_view language_;
     std::vector<std::uint32_t> keys_;

@@ -1,8 +1,9 @@
 #include "platform/qt/documents/OpenFailure.h"
 
+#include "platform/qt/windows/messageBox.h"
+
 #include <QApplication>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QStringList>
 
 namespace lexiform::qt {
@@ -52,12 +53,7 @@ FailureMessage messageFor(const std::vector<OpenFailure>& failures) {
 void showOpenFailures(const std::vector<OpenFailure>& failures) {
     const FailureMessage message = messageFor(failures);
     QMessageBox box(QApplication::activeWindow());
-    box.setIcon(QMessageBox::Warning);
-    // File names are no markup.
-    box.setTextFormat(Qt::PlainText);
-    box.setWindowTitle(tr("Lexiform"));
-    box.setText(message.heading);
-    box.setInformativeText(message.reasons);
+    fillMessageBox(box, message.heading, message.reasons);
     box.exec();
 }
 

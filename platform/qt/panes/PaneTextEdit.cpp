@@ -180,7 +180,7 @@ QPointF PaneTextEdit::onNearestLine(QPointF point) const {
         const qreal height = blockBoundingRect(block).height();
         for (int i = 0; i < block.layout()->lineCount(); ++i) {
             const QRectF line = block.layout()->lineAt(i).naturalTextRect().translated(0, top);
-            if (point.y() < line.top()) return {point.x(), line.top()};
+            if (point.y() < line.top()) return {point.x(), line.center().y()};
             if (point.y() < line.bottom()) return point;
         }
         top += height;

@@ -1,5 +1,6 @@
 #include "platform/qt/panes/lineEndMarks.h"
 
+#include <QHash>
 #include <QTextDocument>
 
 namespace lexiform::qt {
@@ -19,24 +20,21 @@ LineEnd lineEndIn(const QTextFormat& format, LineEnd own) {
     return static_cast<LineEnd>(format.intProperty(lineEndProperty));
 }
 
-// Reads the marks of one block after the other; most follow one with the same format.
+// Reads the marks of many blocks. There are few formats among them.
 class MarkReader {
 public:
-    explicit MarkReader(LineEnd own) : own_(own), end_(own) {}
+    explicit MarkReader(LineEnd own) : own_(own) {}
 
     LineEnd lineEndBefore(const QTextBlock& block) {
         const int index = block.charFormatIndex();
-        if (index != index_) {
-            index_ = index;
-            end_ = lineEndIn(block.charFormat(), own_);
-        }
-        return end_;
+        const auto known = ends_.constFind(index);
+        if (known != ends_.constEnd()) return *known;
+        return *ends_.insert(index, lineEndIn(block.charFormat(), own_));
     }
 
 private:
     LineEnd own_;
-    LineEnd end_;
-    int index_ = -1;
+    QHash<int, LineEnd> ends_;
 };
 
 } // namespace

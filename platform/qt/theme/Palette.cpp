@@ -45,4 +45,9 @@ QPalette paletteOf(Appearance appearance) {
     return palette;
 }
 
+// In the dark a framed control at rest has the tone that a flat one takes under the pointer.
+QColor pointedFill(const Surfaces& surfaces) {
+    return surfaces.controlFill == surfaces.hover ? surfaces.pressed : surfaces.hover;
+}
+
 } // namespace lexiform::qt

@@ -10,4 +10,7 @@ namespace lexiform::qt {
 /// own palette shows through in the other appearance.
 [[nodiscard]] QPalette paletteOf(Appearance appearance);
 
+/// The fill of a framed control under the pointer: one step away from its fill at rest.
+[[nodiscard]] QColor pointedFill(const Surfaces& surfaces);
+
 } // namespace lexiform::qt

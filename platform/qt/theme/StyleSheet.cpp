@@ -1,5 +1,7 @@
 #include "platform/qt/theme/StyleSheet.h"
 
+#include "platform/qt/theme/Palette.h"
+
 #include <array>
 #include <utility>
 
@@ -19,23 +21,32 @@ QMenu { background: $fill; color: $text; border: 1px solid $outline; padding: 5p
 QMenu::item { padding: 6px 28px 6px 28px; border-radius: 4px; }
 QMenu::item:selected { background: $selection; }
 QMenu::item:disabled { color: $faint; background: transparent; }
+QMenu::icon { padding-left: 8px; }
 QMenu::separator { height: 1px; background: $outline; margin: 5px 8px; }
 
 QToolBar { background: $window; border: none; padding: 4px; spacing: 0; }
 QToolBar::separator { background: $outline; width: 1px; margin: 10px 12px; }
-QToolButton { border: 2px solid transparent; border-radius: 6px; padding: 4px 10px 4px 6px;
-              background: transparent; color: $text; }
-QToolButton:hover { background: $hover; }
-QToolButton:pressed { background: $pressed; }
-QToolButton:focus { border-color: $accent; }
-QToolButton:disabled { color: $faint; background: transparent; }
+QToolBar QToolButton { border: 2px solid transparent; border-radius: 6px; padding: 4px 10px 4px 6px;
+                       background: transparent; color: $text; }
+QToolBar QToolButton:hover { background: $hover; }
+QToolBar QToolButton:pressed { background: $pressed; }
+QToolBar QToolButton:focus { border-color: $accent; }
+QToolBar QToolButton:disabled { color: $faint; background: transparent; }
+
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QPushButton { border: 1px solid $border; border-radius: 6px; padding: 6px 15px; min-width: 60px;
+              background: $fill; color: $text; }
+QPushButton:hover { background: $pointed; }
+QPushButton:pressed { background: $pressed; }
+QPushButton:focus { border: 2px solid $accent; padding: 5px 14px; }
+QPushButton:disabled { color: $faint; border-color: $outline; background: transparent; }
 
 QComboBox { combobox-popup: 0; }
 QComboBox QAbstractItemView { background: $fill; border: 1px solid $outline; padding: 5px; outline: none; }
 
 QStatusBar { background: $window; border: none; }
 QStatusBar::item { border: none; }
-QToolTip { background: $fill; color: $text; border: 1px solid $outline; padding: 4px 6px; }
+QToolTip { background: $fill; color: $text; border: 1px solid $outline; padding: 1px 2px; }
 
 QScrollBar { background: transparent; border: none; }
 QScrollBar:vertical { width: 10px; margin: 2px; }
@@ -52,13 +63,14 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 
 QString styleSheetOf(Appearance appearance) {
     const Surfaces& surfaces = surfacesOf(appearance);
-    const std::array<std::pair<const char*, QColor>, 11> values = {{
+    const std::array<std::pair<const char*, QColor>, 12> values = {{
         {"$window", surfaces.window},
         {"$text", surfaces.text},
         {"$faint", surfaces.disabledText},
         {"$hover", surfaces.hover},
         {"$pressed", surfaces.pressed},
         {"$fill", surfaces.controlFill},
+        {"$pointed", pointedFill(surfaces)},
         {"$selection", surfaces.selection},
         {"$outline", surfaces.disabledBorder},
         {"$accent", surfaces.focus},

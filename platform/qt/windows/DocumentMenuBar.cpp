@@ -18,7 +18,7 @@ constexpr int barHeight = 30;
 
 DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const WindowServices& services, QWidget* window)
     : QMenuBar(window) {
-    setFixedHeight(barHeight);
+    setMinimumHeight(barHeight);
     addFileMenu();
     addMenu(new EditMenu(window));
     addTextMenu(actions);

@@ -21,7 +21,7 @@ DocumentToolBar::DocumentToolBar(const TextActions& actions, QWidget* parent)
     setContextMenuPolicy(Qt::PreventContextMenu);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setIconSize(lineIconSize);
-    setFixedHeight(barHeight);
+    setMinimumHeight(barHeight);
     typesPopUp_->setAccessibleName(tr("Show"));
     typesPopUp_->setToolTip(tr("Choose what the colours of the output show, after a multi-parse"));
 
@@ -45,7 +45,7 @@ void DocumentToolBar::addButton(QAction* action) {
     addAction(action);
     auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
     button->setFocusPolicy(Qt::TabFocus);
-    button->setFixedHeight(buttonHeight);
+    button->setMinimumHeight(buttonHeight);
 }
 
 } // namespace lexiform::qt

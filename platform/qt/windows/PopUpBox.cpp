@@ -1,11 +1,14 @@
 #include "platform/qt/windows/PopUpBox.h"
 
 #include "platform/qt/theme/Appearance.h"
+#include "platform/qt/theme/Palette.h"
 #include "platform/qt/windows/PopUpDelegate.h"
 
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QPainterPath>
+
+#include <algorithm>
 
 namespace lexiform::qt {
 
@@ -19,9 +22,7 @@ constexpr int chevronInset = 20;
 
 QColor fillOf(const QWidget& box, const Surfaces& surfaces) {
     if (!box.isEnabled()) return Qt::transparent;
-    if (!box.underMouse()) return surfaces.controlFill;
-    // In the dark the fill at rest is the tone that pointed tool buttons take.
-    return surfaces.controlFill == surfaces.hover ? surfaces.pressed : surfaces.hover;
+    return box.underMouse() ? pointedFill(surfaces) : surfaces.controlFill;
 }
 
 // The ring of the focus lies inside the outline, so that the box keeps its size.
@@ -47,10 +48,18 @@ void paintChevron(QPainter& painter, const QRect& box, const QColor& colour) {
 } // namespace
 
 PopUpBox::PopUpBox(QWidget* parent) : QComboBox(parent) {
-    setFixedSize(boxSize);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setItemDelegate(new PopUpDelegate(this));
+}
+
+QSize PopUpBox::sizeHint() const {
+    int widest = 0;
+    for (int row = 0; row < count(); ++row)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(row)));
+    const QSize room(widest + 2 * textInset + chevronInset, fontMetrics().height() + textInset);
+    return room.expandedTo(boxSize);
 }
 
 void PopUpBox::showPopup() {

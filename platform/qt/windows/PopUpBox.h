@@ -9,6 +9,8 @@ class PopUpBox : public QComboBox {
 public:
     explicit PopUpBox(QWidget* parent = nullptr);
 
+    /// The same for every title, unless the font is very large.
+    [[nodiscard]] QSize sizeHint() const override;
     void showPopup() override;
 
 protected:

@@ -14,7 +14,7 @@ constexpr int leadingInset = 30; // a status bar itself adds the rest to the win
 
 StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent), label_(new QLabel(this)) {
     setSizeGripEnabled(false);
-    setFixedHeight(lineHeight);
+    setMinimumHeight(lineHeight);
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() - 1);
     label_->setFont(font);
@@ -24,15 +24,14 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent), label_(new QLabel(
 }
 
 void StatusLine::showParsed(std::int64_t words) {
-    label_->setText(tr("%1, parsed").arg(counted(words)));
+    label_->setText(words == 0 ? tr("Parsed") : tr("%1, parsed").arg(counted(words)));
 }
 
 void StatusLine::showMultiParsed(std::int64_t words) {
-    label_->setText(tr("%1, multi-parsed").arg(counted(words)));
+    label_->setText(words == 0 ? tr("Multi-parsed") : tr("%1, multi-parsed").arg(counted(words)));
 }
 
 QString StatusLine::counted(std::int64_t words) {
-    if (words == 0) return tr("No words");
     if (words == 1) return tr("1 word");
     return tr("%1 words").arg(QLocale().toString(static_cast<qlonglong>(words)));
 }

@@ -17,7 +17,6 @@ QAction* makeAction(QObject* owner, Glyph glyph, const QString& title, const QSt
     // A tool button takes its label from the icon's text: the title without its mnemonic mark.
     action->setIconText(QString(title).remove(u'&'));
     action->setToolTip(toolTip);
-    action->setIconVisibleInMenu(false);
     action->setEnabled(false);
     return action;
 }

@@ -6,6 +6,7 @@
 #include "platform/qt/documents/SceneStoryboard.h"
 #include "platform/qt/windows/DocumentWindow.h"
 #include "platform/qt/windows/documentScene.h"
+#include "tests/support/PlainDoubles.h"
 #include "tests/support/ScriptedTagger.h"
 
 #include <QApplication>
@@ -41,7 +42,7 @@ public:
     [[nodiscard]] QString folder() const { return folder_.path(); }
 
     std::shared_ptr<SceneController> makeScene() {
-        return makeDocumentScene(scriptedTaggers(script, tagger), {theme, store, windows});
+        return makeDocumentScene(scriptedTaggers(script, tagger), {theme, store, windows, analysis});
     }
 
     [[nodiscard]] static DocumentWindow& windowOf(const Document& document) {
@@ -70,6 +71,8 @@ public:
 
     ScriptedTagger::Script script = {{"The", "Determiner"}, {"cat", "Noun"}, {"sat", "Verb"}};
     std::shared_ptr<TaggerCalls> tagger = std::make_shared<TaggerCalls>();
+    std::shared_ptr<PlainUserDefaults> defaults = std::make_shared<PlainUserDefaults>();
+    AnalysisServices analysis{defaults, nullptr, nullptr};
     std::vector<std::vector<OpenFailure>> told;
     QStringList chosen;
 

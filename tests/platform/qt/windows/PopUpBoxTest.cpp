@@ -61,10 +61,10 @@ TEST_F(PopUpBoxTest, showsByItsFillWhetherItIsEnabled) {
 
 TEST_F(PopUpBoxTest, keepsItsSizeInEveryState) {
     box.show();
-    EXPECT_EQ(box.size(), QSize(136, 36));
+    EXPECT_EQ(box.sizeHint(), QSize(136, 36));
     box.setFocus();
     QApplication::processEvents();
-    EXPECT_EQ(box.size(), QSize(136, 36));
+    EXPECT_EQ(box.sizeHint(), QSize(136, 36));
 }
 
 TEST_F(PopUpBoxTest, marksThePointedItemAndTicksTheSetOne) {
