@@ -43,7 +43,7 @@ struct ModelHeader {
     std::uint32_t version = modelVersion;
     std::uint32_t features = 0;
     std::uint64_t fileSize = 0;
-    std::uint64_t checksum = 0;      ///< `checksumOf` all bytes after the header
+    std::uint64_t checksum = 0;      ///< `checksumOf` the whole file
     std::array<char, 16> language{}; ///< BCP 47, padded with zeros
     std::array<SectionRecord, sectionCount> sections{};
 };
@@ -76,7 +76,7 @@ inline constexpr int largestTransition = 4000;
 }
 
 /// A hash of the bytes, eight at a time; a shorter rest is padded with zeros.
-[[nodiscard]] inline std::uint64_t checksumOf(std::span<const std::byte> bytes) {
+[[nodiscard]] inline std::uint64_t hashOfBytes(std::span<const std::byte> bytes) {
     std::uint64_t hash = bytes.size();
     for (std::size_t at = 0; at < bytes.size(); at += 8) {
         std::uint64_t word = 0;
@@ -84,6 +84,16 @@ inline constexpr int largestTransition = 4000;
         hash = combined(hash, word);
     }
     return hash;
+}
+
+/// The checksum of a model file, at least a header long: of its header with a checksum of zero, and of
+/// the rest.
+[[nodiscard]] inline std::uint64_t checksumOf(std::span<const std::byte> file) {
+    ModelHeader header;
+    std::memcpy(&header, file.data(), sizeof(header));
+    header.checksum = 0;
+    return combined(hashOfBytes(std::as_bytes(std::span(&header, 1))),
+                    hashOfBytes(file.subspan(sizeof(header))));
 }
 
 } // namespace lexiform::linguistics
