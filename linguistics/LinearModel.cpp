@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 #include <optional>
 
 namespace lexiform::linguistics {
@@ -28,8 +29,7 @@ public:
                         std::to_string(header_.features) + ", this program reads " +
                         std::to_string(modelVersion) + "." + std::to_string(featureVersion));
         if (header_.fileSize != bytes_.size()) return fail("the file is truncated or has bytes to spare");
-        if (header_.checksum != checksumOf(bytes_.subspan(sizeof(header_))))
-            return fail("the file is damaged: its checksum is wrong");
+        if (header_.checksum != checksumOf(bytes_)) return fail("the file is damaged: its checksum is wrong");
         return true;
     }
 

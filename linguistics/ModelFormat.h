@@ -1,14 +1,11 @@
 #pragma once
 
-#include "linguistics/Hash.h"
 #include "linguistics/NameLabel.h"
 #include "linguistics/UniversalPos.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <span>
 
 namespace lexiform::linguistics {
@@ -43,7 +40,7 @@ struct ModelHeader {
     std::uint32_t version = modelVersion;
     std::uint32_t features = 0;
     std::uint64_t fileSize = 0;
-    std::uint64_t checksum = 0;      ///< `checksumOf` all bytes after the header
+    std::uint64_t checksum = 0;      ///< `checksumOf` the whole file
     std::array<char, 16> language{}; ///< BCP 47, padded with zeros
     std::array<SectionRecord, sectionCount> sections{};
 };
@@ -75,15 +72,8 @@ inline constexpr int largestTransition = 4000;
     return static_cast<std::uint16_t>(feature >> 16);
 }
 
-/// A hash of the bytes, eight at a time; a shorter rest is padded with zeros.
-[[nodiscard]] inline std::uint64_t checksumOf(std::span<const std::byte> bytes) {
-    std::uint64_t hash = bytes.size();
-    for (std::size_t at = 0; at < bytes.size(); at += 8) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, bytes.data() + at, std::min<std::size_t>(8, bytes.size() - at));
-        hash = combined(hash, word);
-    }
-    return hash;
-}
+/// The checksum of a model file, at least a header long: of its header with a checksum of zero, and of
+/// the rest.
+[[nodiscard]] std::uint64_t checksumOf(std::span<const std::byte> file);
 
 } // namespace lexiform::linguistics

@@ -30,60 +30,30 @@ char32_t firstOf(std::string_view word) {
     return codePointAt(word, 0).value;
 }
 
-bool isClosing(char32_t mark) {
-    switch (mark) {
-    case '"':
-    case '\'':
-    case ')':
-    case ']':
-    case '}':
-    case 0x2019:
-    case 0x201D:
-    case 0xBB:
-    case 0x203A:
-    case 0x300D:
-    case 0x300F:
-    case 0xFF09:
-    case 0x3011:
-        return true;
-    default:
-        return false;
-    }
+bool isBracket(char32_t mark) {
+    return std::u32string_view(U")]}\uFF09\u3011").find(mark) != std::u32string_view::npos;
 }
 
 bool isQuote(char32_t mark) {
-    return isClosing(mark) && mark != ')' && mark != ']' && mark != '}';
+    return std::u32string_view(U"\"'\u2019\u201D\u00BB\u203A\u300D\u300F").find(mark) !=
+           std::u32string_view::npos;
+}
+
+bool isClosing(char32_t mark) {
+    return isBracket(mark) || isQuote(mark);
 }
 
 Ending endingOfMarks(std::string_view marks) {
-    switch (firstOf(marks)) {
-    case '.':
-        return marks.size() == 1 ? Ending::fullStop : Ending::ellipsis;
-    case 0x2026:
-        return Ending::ellipsis;
-    case '!':
-    case '?':
-    case 0x203D:
-    case 0x61F:
-    case 0x203C:
-    case 0x2047:
-    case 0x2048:
-    case 0x2049:
-    case 0x6D4:
-    case 0x964:
-    case 0x965:
-    case 0x589:
-    case 0x1362: // full stops of other scripts
-        return Ending::emphatic;
-    case 0x3002:
-    case 0xFF01:
-    case 0xFF1F:
-    case 0xFF0E:
-    case 0xFF61:
-        return Ending::wide;
-    default:
-        return Ending::none;
-    }
+    // Full stops of other scripts are as plain as question marks.
+    constexpr std::u32string_view emphatic =
+        U"!?\u203D\u061F\u203C\u2047\u2048\u2049\u06D4\u0964\u0965\u0589\u1362";
+    // After these no space follows.
+    constexpr std::u32string_view wide = U"\u3002\uFF01\uFF1F\uFF0E\uFF61";
+    const char32_t first = firstOf(marks);
+    if (first == '.') return marks.size() == 1 ? Ending::fullStop : Ending::ellipsis;
+    if (first == 0x2026) return Ending::ellipsis;
+    if (emphatic.find(first) != std::u32string_view::npos) return Ending::emphatic;
+    return wide.find(first) != std::u32string_view::npos ? Ending::wide : Ending::none;
 }
 
 /// Walks the tokens of a paragraph once.

@@ -5,6 +5,8 @@
 #include "linguistics/SpecialForms.h"
 #include "linguistics/WordScanner.h"
 
+#include <algorithm>
+
 namespace lexiform::linguistics {
 
 namespace {
@@ -25,33 +27,8 @@ TokenKind kindOfMark(const Unit& unit) {
 
 // Brackets and currency signs are told apart even where they follow each other.
 bool mayRepeat(char32_t mark) {
-    switch (mark) {
-    case '.':
-    case ',':
-    case '-':
-    case '!':
-    case '?':
-    case '*':
-    case '=':
-    case '~':
-    case '#':
-    case '_':
-    case '+':
-    case '<':
-    case '>':
-    case '\'':
-    case '`':
-    case ':':
-    case ';':
-    case '|':
-    case '^':
-    case 0x2013:
-    case 0x2014:
-    case 0x2026:
-        return true;
-    default:
-        return false;
-    }
+    constexpr std::u32string_view marks = U".,-!?*=~#_+<>'`:;|^\u2013\u2014\u2026";
+    return marks.find(mark) != std::u32string_view::npos;
 }
 
 bool continuesRun(char32_t first, char32_t next) {
@@ -219,23 +196,26 @@ void Tokeniser::takeMarks(std::size_t chunkEnd, TokenKind kind) {
 }
 
 void Tokeniser::takeWord(std::size_t end) {
-    const std::string_view word = paragraph_.substr(at_, end - at_);
-    if (plain_) {
-        if (const std::size_t first = firstPartOfContraction(word)) emit(at_ + first, TokenKind::word);
-        return emit(end, TokenKind::word);
-    }
-    if (const std::size_t figure = lengthOfFigure(word); figure < word.size())
-        emit(at_ + figure, TokenKind::word);
-    const std::size_t start = at_;
-    const std::string_view rest = paragraph_.substr(start, end - start);
-    const std::size_t enclitic = startOfEnclitic(rest);
-    const std::string_view stem = rest.substr(0, enclitic);
-    if (const std::size_t first = firstPartOfContraction(stem))
-        emit(start + first, TokenKind::word);
-    else if (const std::size_t inner = startOfEnclitic(stem); inner < stem.size()) // "should|n't|'ve"
-        emit(start + inner, TokenKind::word);
-    emit(start + stem.size(), TokenKind::word);
-    if (enclitic < rest.size()) emit(end, TokenKind::word);
+    if (plain_) return takeStem(end);
+    takeFigure(end);
+    const std::size_t stemEnd = at_ + startOfEnclitic(paragraph_.substr(at_, end - at_));
+    takeStem(stemEnd);
+    if (stemEnd < end) emit(end, TokenKind::word);
+}
+
+// Of "8pm" the figure.
+void Tokeniser::takeFigure(std::size_t end) {
+    const std::size_t length = lengthOfFigure(paragraph_.substr(at_, end - at_));
+    if (at_ + length < end) emit(at_ + length, TokenKind::word);
+}
+
+// A word without its last enclitic, which may hold another ("should|n't" of "shouldn't've").
+void Tokeniser::takeStem(std::size_t end) {
+    const std::string_view stem = paragraph_.substr(at_, end - at_);
+    const std::size_t contraction = firstPartOfContraction(stem);
+    const std::size_t split = contraction > 0 || plain_ ? contraction : startOfEnclitic(stem);
+    if (split > 0 && split < stem.size()) emit(at_ + split, TokenKind::word);
+    emit(end, TokenKind::word);
 }
 
 void Tokeniser::takeJoinedWords(std::size_t chunkEnd) {

@@ -34,6 +34,8 @@ private:
     [[nodiscard]] bool takeToken(std::size_t length, TokenKind kind);
     void takeUnit(const Unit& unit, std::size_t chunkEnd);
     void takeWord(std::size_t end);
+    void takeFigure(std::size_t end);
+    void takeStem(std::size_t end);
     void takeJoinedWords(std::size_t chunkEnd);
     void takeMarks(std::size_t chunkEnd, TokenKind kind);
 

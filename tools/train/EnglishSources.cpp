@@ -1,9 +1,10 @@
 #include "tools/train/EnglishSources.h"
 
-#include "linguistics/AsciiText.h"
+#include "linguistics/Tokeniser.h"
 #include "tools/train/ConlluReader.h"
 #include "tools/train/Lines.h"
 #include "tools/train/NameListReader.h"
+#include "tools/train/WordClusters.h"
 
 #include <algorithm>
 #include <fstream>
@@ -18,6 +19,13 @@ namespace {
 
 namespace fs = std::filesystem;
 using linguistics::WordList;
+
+// Word classes from contexts: enough to be of use, few enough to be learned from the treebanks.
+constexpr std::size_t clusterCount = 200;
+constexpr std::size_t leastSeenForCluster = 40;
+constexpr int clusterPasses = 6;
+// Novels are most of the text; what is like the treebanks counts this many times.
+constexpr int repeatsOfTreebanks = 3;
 
 // Family names past this rank are seldom met and often ordinary words.
 constexpr std::size_t mostFamilyNames = 15000;
@@ -174,6 +182,39 @@ Fault fillCorpora(const fs::path& folder, Sources& sources) {
     return addNames(sources, folder / "names" / "btc-tweets.tsv", 0.5F);
 }
 
+void addForClusters(const Corpus& corpus, WordClusters& clusters) {
+    for (const GoldSentence& sentence : corpus) {
+        for (const GoldToken& token : sentence.tokens)
+            clusters.add(linguistics::normalForm(token.form));
+        clusters.add("");
+    }
+}
+
+Fault addForClusters(const fs::path& file, WordClusters& clusters) {
+    linguistics::Tokeniser tokeniser;
+    std::vector<linguistics::Token> tokens;
+    return eachLine(file, [&](std::string_view line) {
+        tokens.clear();
+        tokeniser.tokenise(line, 0, tokens);
+        for (const linguistics::Token& token : tokens)
+            if (token.kind != linguistics::TokenKind::whitespace)
+                clusters.add(linguistics::normalForm(substring(line, token.range)));
+        clusters.add("");
+    });
+}
+
+Fault addClusters(const fs::path& folder, const Sources& sources, LexiconBuilder& lexicon) {
+    WordClusters clusters(clusterCount, leastSeenForCluster);
+    for (int i = 0; i < repeatsOfTreebanks; ++i)
+        for (const auto* corpora : {&sources.tagged, &sources.silver})
+            for (const WeightedCorpus& corpus : *corpora)
+                addForClusters(corpus.corpus, clusters);
+    if (Fault fault = addForClusters(folder / "text" / "novels.txt", clusters)) return fault;
+    for (const auto& [form, cluster] : clusters.build(clusterPasses))
+        lexicon.setCluster(form, cluster);
+    return std::nullopt;
+}
+
 } // namespace
 
 Outcome<Sources, std::string> englishSources(const fs::path& folder) {
@@ -181,6 +222,7 @@ Outcome<Sources, std::string> englishSources(const fs::path& folder) {
     LexiconBuilder lexicon;
     if (Fault fault = fillLexicon(folder, sources, lexicon)) return *fault;
     if (Fault fault = fillCorpora(folder / "en", sources)) return *fault;
+    if (Fault fault = addClusters(folder / "en", sources, lexicon)) return *fault;
     sources.lexicon = lexicon.build();
     sources.transitionClasses = LexiconBuilder::classCount();
     return sources;

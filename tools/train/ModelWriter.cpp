@@ -36,9 +36,10 @@ public:
     std::vector<std::byte> finished(std::string_view language) {
         header_.features = featureVersion;
         header_.fileSize = bytes_.size();
-        header_.checksum = checksumOf(std::span(bytes_).subspan(sizeof(ModelHeader)));
         std::copy_n(language.begin(), std::min(language.size(), header_.language.size() - 1),
                     header_.language.begin());
+        std::memcpy(bytes_.data(), &header_, sizeof(header_));
+        header_.checksum = checksumOf(bytes_);
         std::memcpy(bytes_.data(), &header_, sizeof(header_));
         return std::move(bytes_);
     }
