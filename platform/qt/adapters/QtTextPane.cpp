@@ -1,5 +1,7 @@
 #include "platform/qt/adapters/QtTextPane.h"
 
+#include <QScrollBar>
+
 namespace lexiform::qt {
 
 std::string QtTextPane::plainText() const {
@@ -11,7 +13,10 @@ TextStorage* QtTextPane::textStorage() {
 }
 
 void QtTextPane::replace(const AttributedText& text) {
-    if (edit_) edit_->replaceText(text);
+    if (!edit_) return;
+    const int place = edit_->verticalScrollBar()->value();
+    edit_->replaceText(text);
+    if (after_ == AfterReplacing::keepsPlace) edit_->verticalScrollBar()->setValue(place);
 }
 
 void QtTextPane::append(const AttributedText& text) {

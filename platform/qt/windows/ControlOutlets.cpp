@@ -25,7 +25,8 @@ ControlOutlets::ControlOutlets(ViewController& controller, const DocumentPanes& 
     controller.outtextScroller = outputScroller_;
     controller.outtextTextbox = std::make_shared<QtTextPane>(panes.output());
     controller.concordScroller = concordanceScroller_;
-    controller.concordTextbox = std::make_shared<QtTextPane>(panes.concordance());
+    // A list that is made again shows the same stretch: a reader compares the counts.
+    controller.concordTextbox = std::make_shared<QtTextPane>(panes.concordance(), AfterReplacing::keepsPlace);
     controller.colourKeyText = std::make_shared<QtTextField>(panes.key());
     controller.progressSpinner = std::make_shared<QtProgressIndicator>(busyLine);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "analysis/ViewController.h"
+#include "platform/qt/adapters/QtFileWriter.h"
+#include "platform/qt/adapters/QtSavePanel.h"
 #include "platform/qt/adapters/QtWindowController.h"
 #include "platform/qt/documents/DocumentController.h"
 #include "platform/qt/documents/SceneStoryboard.h"
@@ -42,7 +44,8 @@ public:
     [[nodiscard]] QString folder() const { return folder_.path(); }
 
     std::shared_ptr<SceneController> makeScene() {
-        return makeDocumentScene(scriptedTaggers(script, tagger), {theme, store, windows, analysis});
+        return makeDocumentScene(makeTagger ? makeTagger : scriptedTaggers(script, tagger),
+                                 {theme, store, windows, analysis});
     }
 
     [[nodiscard]] static DocumentWindow& windowOf(const Document& document) {
@@ -72,11 +75,21 @@ public:
     ScriptedTagger::Script script = {{"The", "Determiner"}, {"cat", "Noun"}, {"sat", "Verb"}};
     std::shared_ptr<TaggerCalls> tagger = std::make_shared<TaggerCalls>();
     std::shared_ptr<PlainUserDefaults> defaults = std::make_shared<PlainUserDefaults>();
-    AnalysisServices analysis{defaults, nullptr, nullptr};
+    /// Every save panel that was opened and is not gone.
+    std::vector<std::weak_ptr<QtSavePanel>> panels;
+    AnalysisServices analysis{defaults, [this] { return makePanel(); }, std::make_shared<QtFileWriter>()};
+    /// In the place of the taggers that know `script`.
+    TaggerFactory makeTagger;
     std::vector<std::vector<OpenFailure>> told;
     QStringList chosen;
 
 private:
+    std::shared_ptr<SavePanel> makePanel() {
+        auto panel = std::make_shared<QtSavePanel>("Save");
+        panels.push_back(panel);
+        return panel;
+    }
+
     QTemporaryDir folder_;
     QString stateFile_;
 

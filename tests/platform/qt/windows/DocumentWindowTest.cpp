@@ -122,15 +122,6 @@ TEST_F(DocumentWindowTest, givesAllFiveControlsANameAndAToolTipAndTheKeyboard) {
     EXPECT_FALSE(window.toolBar()->typesPopUp()->toolTip().isEmpty());
 }
 
-TEST_F(DocumentWindowTest, disablesTheCommandsThatHaveNoWorkYet) {
-    desktop.documents.newDocument();
-    const TextActions& actions = desktop.window().textActions();
-    EXPECT_TRUE(actions.parse->isEnabled());
-    EXPECT_FALSE(actions.multiParse->isEnabled());
-    EXPECT_FALSE(actions.listWords->isEnabled());
-    EXPECT_FALSE(actions.saveList->isEnabled());
-}
-
 TEST_F(DocumentWindowTest, saysInTheStatusLineHowManyWordsWereParsed) {
     DocumentWindow& window = desktop.typedInto("The cat sat.");
     EXPECT_EQ(window.statusLine()->text(), "Not parsed yet");
