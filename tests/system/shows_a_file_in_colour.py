@@ -95,6 +95,8 @@ def enough_colours(window):
 
 
 def look(program_path, file, models):
+    if not os.path.exists(os.path.join(models, "en.lxm")):
+        sys.exit(f"no model of English in {models}")
     with tempfile.TemporaryDirectory() as home:
         environment = dict(os.environ, HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home,
                            LEXIFORM_MODELS=models, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR="1")

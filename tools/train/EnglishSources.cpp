@@ -33,9 +33,6 @@ constexpr std::size_t mostFamilyNames = 15000;
 constexpr std::size_t tooCommonForCities = 3000;
 constexpr std::size_t shortestCity = 4;
 
-// Text whose parts of speech are worked out from other tags, by other guidelines, counts this much.
-constexpr float silverWeight = 0.3F;
-
 using Fault = std::optional<std::string>;
 
 Fault eachLine(const fs::path& file, const std::function<void(std::string_view)>& take) {
@@ -55,14 +52,12 @@ bool isSound(const GoldSentence& sentence) {
     });
 }
 
-Fault addTaggedText(const fs::path& file, Sources& sources, LexiconBuilder& lexicon) {
+Outcome<Corpus, std::string> readSound(const fs::path& file) {
     auto read = readConllu(file);
     if (!read.succeeded()) return read.fault();
     Corpus corpus = std::move(read).value();
     std::erase_if(corpus, [](const GoldSentence& sentence) { return !isSound(sentence); });
-    lexicon.addTaggedText(corpus);
-    sources.silver.push_back({std::move(corpus), silverWeight});
-    return std::nullopt;
+    return corpus;
 }
 
 // The lemma index is an object of lists of words; no word in it holds a quote.
@@ -136,12 +131,10 @@ Fault addPlaces(const fs::path& file, const std::vector<std::string>& commonest,
     });
 }
 
-Fault fillLexicon(const fs::path& folder, Sources& sources, LexiconBuilder& lexicon) {
+Fault fillLexicon(const fs::path& folder, LexiconBuilder& lexicon) {
     const fs::path lists = folder / "en" / "lexicon";
     const fs::path places = folder / "mul" / "gazetteers";
     std::vector<std::string> commonest;
-    if (Fault fault = addTaggedText(folder / "en" / "en_masc-train.penn.conllu", sources, lexicon))
-        return fault;
     if (Fault fault = addLemmaIndex(lists / "en_lemma_index.json", lexicon)) return fault;
     if (Fault fault = addInflections(lists / "unimorph_eng.tsv", lexicon)) return fault;
     if (Fault fault = addFrequentWords(lists / "frequency_en_50k.txt", lexicon, commonest)) return fault;
@@ -203,12 +196,12 @@ Fault addForClusters(const fs::path& file, WordClusters& clusters) {
     });
 }
 
-Fault addClusters(const fs::path& folder, const Sources& sources, LexiconBuilder& lexicon) {
+Fault addClusters(const fs::path& folder, const std::vector<const Corpus*>& treebanks,
+                  LexiconBuilder& lexicon) {
     WordClusters clusters(clusterCount, leastSeenForCluster);
     for (int i = 0; i < repeatsOfTreebanks; ++i)
-        for (const auto* corpora : {&sources.tagged, &sources.silver})
-            for (const WeightedCorpus& corpus : *corpora)
-                addForClusters(corpus.corpus, clusters);
+        for (const Corpus* corpus : treebanks)
+            addForClusters(*corpus, clusters);
     if (Fault fault = addForClusters(folder / "text" / "novels.txt", clusters)) return fault;
     for (const auto& [form, cluster] : clusters.build(clusterPasses))
         lexicon.setCluster(form, cluster);
@@ -217,12 +210,19 @@ Fault addClusters(const fs::path& folder, const Sources& sources, LexiconBuilder
 
 } // namespace
 
-Outcome<Sources, std::string> englishSources(const fs::path& folder) {
+Outcome<Sources, std::string> englishSources(const std::filesystem::path& folder) {
+    const fs::path english = folder / "en";
     Sources sources;
     LexiconBuilder lexicon;
-    if (Fault fault = fillLexicon(folder, sources, lexicon)) return *fault;
-    if (Fault fault = fillCorpora(folder / "en", sources)) return *fault;
-    if (Fault fault = addClusters(folder / "en", sources, lexicon)) return *fault;
+    const auto penn = readSound(english / "en_masc-train.penn.conllu");
+    if (!penn.succeeded()) return penn.fault();
+    lexicon.addTaggedText(penn.value());
+    if (Fault fault = fillLexicon(folder, lexicon)) return *fault;
+    if (Fault fault = fillCorpora(english, sources)) return *fault;
+    std::vector<const Corpus*> treebanks = {&penn.value()};
+    for (const WeightedCorpus& corpus : sources.tagged)
+        treebanks.push_back(&corpus.corpus);
+    if (Fault fault = addClusters(english, treebanks, lexicon)) return *fault;
     sources.lexicon = lexicon.build();
     sources.transitionClasses = LexiconBuilder::classCount();
     return sources;

@@ -19,7 +19,6 @@ struct WeightedCorpus {
 /// All that a model of a language is trained from.
 struct Sources {
     std::vector<WeightedCorpus> tagged; ///< universal parts of speech on every word
-    std::vector<WeightedCorpus> silver; ///< tags of their own only, of the kind that `tagged` has beside them
     std::vector<WeightedCorpus> names;  ///< name labels on every word
     Lexicon lexicon;
     std::size_t transitionClasses = 1; ///< more than every ambiguity class in the lexicon

@@ -4,7 +4,6 @@
 #include "tools/train/ChainTrainer.h"
 #include "tools/train/FeatureExtractor.h"
 #include "tools/train/FeatureTable.h"
-#include "tools/train/FineTagMap.h"
 #include "tools/train/ModelWriter.h"
 
 #include <cstdlib>
@@ -21,9 +20,6 @@ constexpr std::uint32_t leastCount = 2;
 
 constexpr ChainOptions posOptions{
     .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 1};
-// For the first model, which only serves to tag more text.
-constexpr ChainOptions firstOptions{
-    .epochs = 5, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 3};
 constexpr ChainOptions nameOptions{
     .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 2};
 
@@ -123,16 +119,15 @@ bool nameMayNotFollow(std::size_t previous, std::size_t next) {
     return !mayFollow(static_cast<NameLabel>(before), static_cast<NameLabel>(next));
 }
 
-void trainPos(const std::vector<WeightedCorpus>& corpora, const ChainOptions& options,
-              std::size_t transitionClasses, FeatureExtractor& extractor, ModelWriter& writer,
-              std::ostream& log) {
+void trainPos(const Sources& sources, FeatureExtractor& extractor, ModelWriter& writer, std::ostream& log) {
     Data data = dataOf(
-        corpora, nullptr, extractor,
+        sources.tagged, nullptr, extractor,
         [](const GoldToken& token) { return static_cast<std::uint8_t>(*token.pos); }, true);
     log << "parts of speech: " << data.sentences.size() << " sentences, " << data.table.features().size()
         << " features\n";
-    ChainTrainer<universalPosCount> trainer(data.table.features().size(), transitionClasses, anyPosMayFollow);
-    trainer.train(data.sentences, options, [&](int epoch) { log << "epoch " << epoch + 1 << std::endl; });
+    ChainTrainer<universalPosCount> trainer(data.table.features().size(), sources.transitionClasses,
+                                            anyPosMayFollow);
+    trainer.train(data.sentences, posOptions, [&](int epoch) { log << "epoch " << epoch + 1 << std::endl; });
     writer.addWeights<universalPosCount>(data.table, trainer.weights(), 0, scale, mostPosWeights);
     writer.setPosTransitions(posTransitionsOf(trainer));
     writer.setNameTransitions(std::vector<std::int16_t>(nameLabelCount * nameLabelCount, 0));
@@ -163,25 +158,6 @@ std::vector<PosOfWords> posBy(const ModelWriter& writer, const std::vector<Weigh
     return posBy(model.value(), corpora);
 }
 
-// Texts with tags of their own get universal ones from a first model, as far as their tags allow them.
-std::vector<WeightedCorpus> withSilver(const Sources& sources, const ModelWriter& first) {
-    FineTagMap map;
-    for (const WeightedCorpus& corpus : sources.tagged)
-        map.learn(corpus.corpus);
-    std::vector<WeightedCorpus> silver = sources.silver;
-    const std::vector<PosOfWords> guesses = posBy(first, silver);
-    std::size_t number = 0;
-    for (WeightedCorpus& corpus : silver)
-        for (GoldSentence& sentence : corpus.corpus) {
-            const PosOfWords& guess = guesses[number++];
-            for (std::size_t i = 0; i < guess.size(); ++i)
-                sentence.tokens[i].pos = map.resolve(sentence.tokens[i], guess[i]);
-        }
-    std::vector<WeightedCorpus> all = sources.tagged;
-    std::move(silver.begin(), silver.end(), std::back_inserter(all));
-    return all;
-}
-
 void trainNames(const Sources& sources, const std::vector<PosOfWords>& pos, FeatureExtractor& extractor,
                 ModelWriter& writer, std::ostream& log) {
     Data data = dataOf(
@@ -203,10 +179,7 @@ std::vector<std::byte> trainModel(std::string_view language, const Sources& sour
     ModelWriter writer(language);
     writer.setLexicon(sources.lexicon);
     log << "lexicon: " << sources.lexicon.size() << " words\n";
-    ModelWriter first(language);
-    first.setLexicon(sources.lexicon);
-    trainPos(sources.tagged, firstOptions, sources.transitionClasses, extractor, first, log);
-    trainPos(withSilver(sources, first), posOptions, sources.transitionClasses, extractor, writer, log);
+    trainPos(sources, extractor, writer, log);
     trainNames(sources, posBy(writer, sources.names), extractor, writer, log);
     return writer.bytes();
 }

@@ -49,6 +49,8 @@ InputTextEdit::InputTextEdit(QWidget* parent) : PaneTextEdit(parent), softBreaks
 
 void InputTextEdit::keyPressEvent(QKeyEvent* event) {
     if (movesFocus(*event)) {
+        // The editor keeps the keyboard while its tab key writes: any other widget lets it go.
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
         QWidget::focusNextPrevChild(event->key() == Qt::Key_Tab);
         return;
     }
