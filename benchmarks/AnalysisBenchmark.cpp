@@ -1,0 +1,84 @@
+// Measures the passes of a document window on a text: AnalysisBenchmark TEXT [RUNS]. Prints the best of
+// several runs of each pass, without any desktop, and the memory that the records of the text take.
+
+#include "linguistics/Engine.h"
+#include "platform/linguistics/LinguisticTagger.h"
+#include "platform/linguistics/modelFolders.h"
+#include "tools/lexiform-cli/HeadlessWindow.h"
+#include "tools/lexiform-cli/InputText.h"
+
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <string>
+
+namespace {
+
+using namespace lexiform;
+
+double bestSeconds(int runs, const std::function<void()>& pass) {
+    double best = 1e9;
+    for (int i = 0; i < runs; ++i) {
+        const auto began = std::chrono::steady_clock::now();
+        pass();
+        best =
+            std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count());
+    }
+    return best;
+}
+
+double residentMegabytes() {
+    long pages = 0;
+    long resident = 0;
+    std::ifstream("/proc/self/statm") >> pages >> resident;
+    return static_cast<double>(resident) * 4096 / 1e6;
+}
+
+double peakMegabytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_maxrss) * 1024 / 1e6;
+}
+
+void print(const char* what, double value, const char* unit) {
+    std::printf("%-24s %9.3f %s\n", what, value, unit);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2) {
+        std::fputs("AnalysisBenchmark TEXT [RUNS]\n", stderr);
+        return 2;
+    }
+    auto text = cli::readText(argv[1]);
+    if (!text.succeeded()) {
+        std::fprintf(stderr, "%s\n", text.fault().message.c_str());
+        return 1;
+    }
+    const int runs = argc > 2 ? std::atoi(argv[2]) : 3;
+    const auto models = std::make_shared<const linguistics::ModelStore>(modelFolders());
+    cli::HeadlessWindow window(linguisticTaggers(std::make_shared<const linguistics::Engine>(models)));
+    ViewController& controller = window.controller();
+    print("text", static_cast<double>(text.value().size()) / 1e6, "MB");
+    window.setText(std::move(text).value());
+
+    print("lexical pass", bestSeconds(runs, [&] { controller.parseText(); }), "s");
+    print("list of words", bestSeconds(runs, [&] { controller.listConcButton(); }), "s");
+    print("peak memory so far", peakMegabytes(), "MB");
+    const double before = residentMegabytes();
+    print("multi-scheme pass", bestSeconds(runs, [&] { controller.multiParse(); }), "s");
+    print("records and lists", residentMegabytes() - before, "MB");
+    print("tokens", static_cast<double>(controller.taggedText.size()) / 1e6, "million");
+    for (const int view : {0, 1, 2, 4})
+        print(("view " + std::to_string(view)).c_str(),
+              bestSeconds(runs, [&] { controller.showSchemeView(view); }), "s");
+    print("list of lemmas", bestSeconds(runs, [&] { controller.listConcButton(); }), "s");
+    print("peak memory", peakMegabytes(), "MB");
+    return 0;
+}
