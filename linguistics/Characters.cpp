@@ -71,7 +71,7 @@ Characters::Characters() {
     for (std::size_t value = 0; value < planeSize; ++value) {
         const auto point = static_cast<char32_t>(value);
         classes_[value] = computedClass(point);
-        const UScriptCode script = scriptCode(point);
+        const int script = scriptCode(point);
         scripts_[value] = static_cast<std::uint8_t>(script >= 0 && script < 256 ? script : USCRIPT_COMMON);
     }
 }

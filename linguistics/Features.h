@@ -6,6 +6,7 @@
 #include "linguistics/WordTraits.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace lexiform::linguistics {
@@ -18,9 +19,11 @@ inline constexpr std::uint32_t featureVersion = 1;
 
 /// A word looks this many words to either side.
 inline constexpr int contextReach = 2;
+/// The neighbours that it looks at, on both sides together.
+inline constexpr std::size_t neighbourCount = std::size_t{contextReach} * 2;
 
 /// The traits of a word and of its neighbours, from `contextReach` before it to as many after it.
-using Context = std::array<const WordTraits*, 2 * contextReach + 1>;
+using Context = std::array<const WordTraits*, neighbourCount + 1>;
 
 /// Tells `take` the features that the word `offset` places away shows by itself.
 template <typename Take>
@@ -66,14 +69,15 @@ void forEachContextFeature(const Context& context, bool first, SentenceTraits se
     const auto casing = static_cast<std::uint64_t>(word.casing);
     tell(32, word.normal, before.normal);
     tell(33, word.normal, after.normal);
-    tell(34, word.entry.ambiguity, before.entry.ambiguity * 256U + after.entry.ambiguity);
+    tell(34, word.entry.ambiguity, before.entry.ambiguity * std::uint64_t{256} + after.entry.ambiguity);
     tell(35, before.entry.cluster, word.entry.cluster);
     tell(36, word.entry.cluster, after.entry.cluster);
-    tell(37, before.entry.cluster * 65536U + after.entry.cluster, casing);
+    tell(37, before.entry.cluster * std::uint64_t{65536} + after.entry.cluster, casing);
     tell(38, word.suffixes[2], after.entry.ambiguity);
     tell(39, word.suffixes[2], before.entry.ambiguity);
     tell(40, (casing * 2 + (first ? 1U : 0U)) * 2 + (sentence.capitalsMean ? 1U : 0U),
-         (word.entry.ambiguity * 8U + static_cast<std::uint64_t>(after.casing)) * 8U +
+         (word.entry.ambiguity * std::uint64_t{8} + static_cast<std::uint64_t>(after.casing)) *
+                 std::uint64_t{8} +
              static_cast<std::uint64_t>(before.casing));
 }
 
@@ -91,8 +95,8 @@ void forEachNameFeature(const Context& context, const std::array<UniversalPos, 3
     tell(65, own, word.entry.cluster);
     tell(66, own * 32 + before, context[1]->normal);
     tell(67, own * 32 + after, context[3]->normal);
-    tell(68, own * 32 + before, word.entry.lists * 256U + context[1]->entry.lists);
-    tell(69, own * 32 + after, word.entry.lists * 256U + context[3]->entry.lists);
+    tell(68, own * 32 + before, word.entry.lists * std::uint64_t{256} + context[1]->entry.lists);
+    tell(69, own * 32 + after, word.entry.lists * std::uint64_t{256} + context[3]->entry.lists);
     tell(70, context[1]->exact, context[3]->exact);
 }
 

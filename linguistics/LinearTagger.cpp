@@ -33,7 +33,7 @@ void LinearTagger::tag(std::span<const std::string_view> words, std::span<WordLa
 
 void LinearTagger::lookUp(std::span<const std::string_view> words) {
     cache_.makeRoom(words.size());
-    indices_.assign(words.size() + 2 * contextReach, WordCache::boundary());
+    indices_.assign(words.size() + neighbourCount, WordCache::boundary());
     std::vector<Casing> casings(words.size());
     for (std::size_t i = 0; i < words.size(); ++i) {
         indices_[i + contextReach] = cache_.indexOf(words[i]);
@@ -50,10 +50,10 @@ Context LinearTagger::contextAt(std::size_t word) const {
 }
 
 void LinearTagger::scoreWords() {
-    scores_.resize(indices_.size() - 2 * contextReach);
+    scores_.resize(indices_.size() - neighbourCount);
     for (std::size_t i = 0; i < scores_.size(); ++i) {
         ScoredWord::Scores sums{};
-        for (std::size_t place = 0; place < 2 * contextReach + 1; ++place) {
+        for (std::size_t place = 0; place < neighbourCount + 1; ++place) {
             const ScoredWord::Scores& known = cache_[indices_[i + place]].scores[place];
             for (std::size_t label = 0; label < sums.size(); ++label)
                 sums[label] = static_cast<std::int16_t>(sums[label] + known[label]);

@@ -8,7 +8,7 @@
 namespace lexiform::linguistics {
 
 /// No paragraph is longer than this many bytes, so that memory stays bounded in any text.
-inline constexpr std::size_t longestParagraph = 32 * 1024;
+inline constexpr std::size_t longestParagraph = std::size_t{32} * 1024;
 
 /// The paragraph that starts at byte `start` of `text`, which must lie inside it. It reaches to the
 /// end of the next blank line (the run of line breaks and of white space between them), or to the end

@@ -5,7 +5,7 @@ namespace lexiform::linguistics {
 namespace {
 
 // About the distinct words of a long novel; six megabytes.
-constexpr std::size_t mostWords = 16 * 1024;
+constexpr std::size_t mostWords = std::size_t{16} * 1024;
 constexpr std::size_t fewestSlots = 256;
 
 } // namespace

@@ -18,7 +18,7 @@ struct ScoredWord {
     using Scores = std::array<std::int16_t, scoreCount>;
 
     WordTraits traits;
-    std::array<Scores, 2 * contextReach + 1> scores{}; ///< by place, from `contextReach` before
+    std::array<Scores, neighbourCount + 1> scores{}; ///< by place, from `contextReach` before
 };
 
 /// The scored words met so far; starts afresh when it is full, so its memory is bounded. What it

@@ -172,7 +172,7 @@ Fault fillCorpora(const fs::path& folder, Sources& sources) {
     sources.names.push_back(sources.tagged.back());
     if (Fault fault = addNames(sources, folder / "names" / "wikigold.tsv", 1)) return fault;
     if (Fault fault = addNames(sources, folder / "names" / "wnut17-train.tsv", 1)) return fault;
-    return addNames(sources, folder / "names" / "btc-tweets.tsv", 0.5F);
+    return addNames(sources, folder / "names" / "btc-tweets.tsv", 1);
 }
 
 void addForClusters(const Corpus& corpus, WordClusters& clusters) {

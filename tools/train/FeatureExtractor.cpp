@@ -18,7 +18,7 @@ const WordTraits& FeatureExtractor::traitsOf(const std::string& word) {
 void FeatureExtractor::extract(const GoldSentence& sentence, const std::vector<UniversalPos>* pos,
                                const Take& take) {
     const std::size_t count = sentence.tokens.size();
-    std::vector<const WordTraits*> words(count + 2 * contextReach, &boundary_);
+    std::vector<const WordTraits*> words(count + neighbourCount, &boundary_);
     std::vector<Casing> casings;
     for (std::size_t i = 0; i < count; ++i) {
         words[i + contextReach] = &traitsOf(sentence.tokens[i].form);

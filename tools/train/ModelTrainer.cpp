@@ -19,9 +19,9 @@ using namespace linguistics;
 constexpr std::uint32_t leastCount = 2;
 
 constexpr ChainOptions posOptions{
-    .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 1};
+    .epochs = 6, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.35F, .seed = 1};
 constexpr ChainOptions nameOptions{
-    .epochs = 12, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.2F, .seed = 2};
+    .epochs = 8, .rate = 0.15F, .shrinkage = 0.002F, .dropout = 0.4F, .seed = 2};
 
 // How many weights each half of the model may have in the file.
 constexpr std::size_t mostPosWeights = 330000;

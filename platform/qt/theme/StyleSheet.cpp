@@ -11,7 +11,7 @@ namespace {
 
 // Names with a leading $ stand for surfaces. No name may be the beginning of another.
 constexpr auto sheet = R"(
-QMenuBar { background: $window; color: $text; border: none; padding: 0 0 0 20px; spacing: 0; }
+QMenuBar { background: $window; color: $text; border: none; padding: 0 0 0 18px; spacing: 2px; }
 QMenuBar::item { background: transparent; padding: 6px 12px; border-radius: 4px; }
 QMenuBar::item:selected { background: $hover; }
 QMenuBar::item:pressed { background: $pressed; }
@@ -24,8 +24,8 @@ QMenu::item:disabled { color: $faint; background: transparent; }
 QMenu::icon { padding-left: 8px; }
 QMenu::separator { height: 1px; background: $outline; margin: 5px 8px; }
 
-QToolBar { background: $window; border: none; padding: 4px; spacing: 0; }
-QToolBar::separator { background: $outline; width: 1px; margin: 10px 12px; }
+QToolBar { background: $window; border: none; padding: 4px; spacing: 4px; }
+QToolBar::separator { background: $outline; width: 1px; margin: 10px 8px; }
 QToolBar QToolButton { border: 2px solid transparent; border-radius: 6px; padding: 4px 10px 4px 6px;
                        background: transparent; color: $text; }
 QToolBar QToolButton:hover { background: $hover; }

@@ -10,8 +10,8 @@ namespace {
 
 constexpr int barHeight = 44;
 constexpr int buttonHeight = 36;
-// With the bar's own padding this puts the first icon on the window's left text edge.
-constexpr int leadingInset = 16;
+// With the bar's own padding and spacing this puts the first icon on the window's left text edge.
+constexpr int leadingInset = 12;
 
 } // namespace
 

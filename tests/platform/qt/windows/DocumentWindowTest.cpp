@@ -133,6 +133,36 @@ TEST_F(DocumentWindowTest, saysInTheStatusLineHowManyWordsWereParsed) {
     EXPECT_EQ(window.statusLine()->text(), "");
 }
 
+TEST_F(DocumentWindowTest, countsNoWordsWhereNoneHasAClass) {
+    DocumentWindow& window = desktop.typedInto("17 + 4");
+    window.textActions().parse->trigger();
+    EXPECT_EQ(window.statusLine()->text(), "Parsed");
+}
+
+TEST_F(DocumentWindowTest, growsItsBarsWithTheFont) {
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSize(28);
+    QApplication::setFont(large);
+    desktop.documents.newDocument();
+    QApplication::processEvents();
+    const DocumentWindow& window = desktop.window();
+    EXPECT_GE(window.menuBar()->height(), QFontMetrics(large).height());
+    EXPECT_GE(window.toolBar()->typesPopUp()->height(), QFontMetrics(large).height());
+    EXPECT_GE(window.toolBar()->height(), window.toolBar()->typesPopUp()->height());
+    QApplication::setFont(before);
+}
+
+TEST_F(DocumentWindowTest, laysItsBarsOutAsDrawn) {
+    desktop.documents.newDocument();
+    QApplication::processEvents();
+    const DocumentWindow& window = desktop.window();
+    EXPECT_EQ(window.menuBar()->height(), 30);
+    EXPECT_EQ(window.toolBar()->height(), 44);
+    EXPECT_EQ(window.statusLine()->height(), 30);
+    EXPECT_EQ(window.panes()->mapTo(&window, QPoint()), QPoint(8, 80));
+}
+
 TEST_F(DocumentWindowTest, opensAtItsDefaultSizeOrAsLargeAsTheScreen) {
     desktop.documents.newDocument();
     const QSize screen = desktop.window().screen()->availableSize();
