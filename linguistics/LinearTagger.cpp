@@ -4,6 +4,13 @@
 
 namespace lexiform::linguistics {
 
+namespace {
+
+// A score that no sum of weights comes near: a word away from all proper nouns is in no name.
+constexpr std::int16_t certain = 12000;
+
+} // namespace
+
 LinearTagger::LinearTagger(const LinearModel& model) : model_(model), cache_(model) {
     for (std::size_t previous = 0; previous <= nameLabelCount; ++previous) {
         // What stands before a sentence is outside every name.
@@ -78,10 +85,16 @@ void LinearTagger::tagPartsOfSpeech(std::span<WordLabels> labels) {
 
 void LinearTagger::addNameFeatures(std::span<const WordLabels> labels) {
     const auto posAt = [&](std::size_t i) { return i < labels.size() ? labels[i].pos : UniversalPos::PUNCT; };
-    for (std::size_t i = 0; i < labels.size(); ++i)
+    for (std::size_t i = 0; i < labels.size(); ++i) {
         // The word before the first is out of range by wrapping around.
-        forEachNameFeature(contextAt(i), {posAt(i - 1), posAt(i), posAt(i + 1)},
+        const std::array pos = {posAt(i - 1), posAt(i), posAt(i + 1)};
+        if (std::find(pos.begin(), pos.end(), UniversalPos::PROPN) == pos.end()) {
+            scores_[i][universalPosCount] = certain;
+            continue;
+        }
+        forEachNameFeature(contextAt(i), pos,
                            [&](std::uint64_t feature) { model_.add(feature, scores_[i].data()); });
+    }
 }
 
 void LinearTagger::tagNames(std::span<WordLabels> labels) {
