@@ -54,7 +54,7 @@ ScoredWord WordCache::scored(WordTraits traits) const {
     ScoredWord word;
     word.traits = traits;
     for (int offset = -contextReach; offset <= contextReach; ++offset) {
-        std::int16_t* scores = word.scores[static_cast<std::size_t>(offset + contextReach)].data();
+        std::int16_t* scores = word.scores[static_cast<unsigned>(offset + contextReach)].data();
         forEachWordFeature(traits, offset, [&](std::uint64_t feature) { model_.add(feature, scores); });
     }
     return word;

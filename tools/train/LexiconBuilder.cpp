@@ -32,6 +32,7 @@ constexpr std::array auxiliaries = {"are"sv, "be"sv,  "been"sv, "could"sv, "did"
 
 std::vector<std::pair<std::size_t, std::string>> byShare(const std::map<std::string, std::size_t>& tags) {
     std::vector<std::pair<std::size_t, std::string>> ordered;
+    ordered.reserve(tags.size());
     for (const auto& [tag, count] : tags)
         ordered.emplace_back(count, tag);
     std::stable_sort(ordered.begin(), ordered.end(),

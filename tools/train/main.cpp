@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -75,9 +76,7 @@ int evaluateModel(const fs::path& file, const fs::path& corpora, std::vector<fs:
     return 0;
 }
 
-} // namespace
-
-int main(int count, char** arguments) {
+int run(int count, char** arguments) {
     CLI::App app("Trains Lexiform's language models and measures them");
     app.require_subcommand(1);
     std::vector<std::string> languages;
@@ -103,4 +102,14 @@ int main(int count, char** arguments) {
     CLI11_PARSE(app, count, arguments);
     if (train->parsed()) return trainModels(languages, corpora, folder);
     return evaluateModel(model, corpora, texts);
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    try {
+        return run(count, arguments);
+    } catch (const std::exception& error) {
+        return fail(error.what());
+    }
 }
