@@ -37,6 +37,14 @@ TEST(Tagging, callsFiguresNumbersInEveryLanguage) {
     EXPECT_EQ(analysed("٤٢").token("٤٢").pos, UniversalPos::NUM);
 }
 
+TEST(Tagging, callsEmojiSymbolsWhateverStandsAround) {
+    const AnalysedText text = analysed("He lived in Lisbon 😀👍🏽 with 🐈 and Ann.");
+    for (const char* emoji : {"😀", "👍🏽", "🐈"}) {
+        EXPECT_EQ(text.token(emoji).pos, UniversalPos::SYM) << emoji;
+        EXPECT_EQ(text.token(emoji).name, NameType::none) << emoji;
+    }
+}
+
 TEST(Tagging, leavesWordsOfOtherScriptsWithoutAClass) {
     const AnalysedText text = analysed("Кошка спит на старом стуле!");
     EXPECT_EQ(text.token("Кошка").pos, UniversalPos::X);
