@@ -28,6 +28,26 @@ bool isDigitsOnly(std::string_view word) {
     return std::all_of(word.begin(), word.end(), isAsciiDigit);
 }
 
+bool isOpenClass(UniversalPos pos) {
+    switch (pos) {
+    case UniversalPos::ADJ:
+    case UniversalPos::ADV:
+    case UniversalPos::INTJ:
+    case UniversalPos::NOUN:
+    case UniversalPos::PROPN:
+    case UniversalPos::VERB:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// "&" may be a conjunction, but a mark or an emoji that the model has not seen is no noun.
+void keepMarksFromOpenClasses(std::span<Token* const> tokens, std::span<WordLabels> labels) {
+    for (std::size_t i = 0; i < tokens.size(); ++i)
+        if (tokens[i]->kind != TokenKind::word && isOpenClass(labels[i].pos)) labels[i].pos = tokens[i]->pos;
+}
+
 // A name without a proper noun in it is a slip of the model.
 void keepNamesWithProperNouns(std::span<WordLabels> labels) {
     for (std::size_t start = 0; start < labels.size();) {
@@ -82,6 +102,7 @@ void ParagraphTagger::tagSentences(std::string_view text, std::span<Token> token
 void ParagraphTagger::tagSentence() {
     labels_.assign(words_.size(), WordLabels{});
     tagger_->tag(words_, labels_);
+    keepMarksFromOpenClasses(wordTokens_, labels_);
     keepNamesWithProperNouns(labels_);
     for (std::size_t i = 0; i < words_.size(); ++i) {
         Token& token = *wordTokens_[i];
