@@ -1,5 +1,4 @@
 #include "analysis/ViewController.h"
-#include "base/fatalError.h"
 #include "base/present.h"
 
 namespace lexiform {
@@ -11,8 +10,7 @@ constexpr std::string_view titleOfNone = "Untitled";
 constexpr std::array<std::string_view, 2> allowedExtensions = {"text", "txt"};
 
 std::shared_ptr<SavePanel> panelFor(std::string_view title, const AnalysisServices& services) {
-    if (!services.makeSavePanel) fatalError("a required object is not connected");
-    std::shared_ptr<SavePanel> panel = services.makeSavePanel();
+    std::shared_ptr<SavePanel> panel = present(services.makeSavePanel)();
     present(panel).setCanCreateDirectories(true);
     panel->setAllowedFileTypes(allowedExtensions);
     panel->setNameFieldStringValue(std::string(title.empty() ? titleOfNone : title).append(nameSuffix));

@@ -1,6 +1,7 @@
 #include "analysis/ViewController.h"
 #include "analysis/collectTags.h"
 #include "analysis/distinctValues.h"
+#include "base/Unicode.h"
 #include "base/present.h"
 
 #include <algorithm>
@@ -39,8 +40,18 @@ void collectAll(Tagger& tagger, const std::string& text, ViewController& control
 
 /// The position of a value in its index, by a search from the start: an index holds a few values.
 std::int64_t positionIn(const std::vector<std::string>& index, const std::string& value) {
-    const auto found = std::find(index.begin(), index.end(), value);
+    const auto found = std::find_if(index.begin(), index.end(), [&](const std::string& candidate) {
+        return canonicallyEqual(candidate, value);
+    });
     return found == index.end() ? 0 : found - index.begin();
+}
+
+/// The position of every distinct value of a list, by the value's number.
+std::vector<std::int64_t> positionsIn(const std::vector<std::string>& index, const StringList& list) {
+    std::vector<std::int64_t> positions;
+    for (StringPool::Number number = 0; number < list.distinct().size(); ++number)
+        positions.push_back(positionIn(index, list.distinct()[number]));
+    return positions;
 }
 
 } // namespace
@@ -66,12 +77,13 @@ void ViewController::buildTaggedText() {
     indScripts = distinctValues(tagScripts);
     indLangs = distinctValues(tagLangs);
     indTypes = distinctValues(tagTypes);
+    const auto scripts = positionsIn(indScripts, tagScripts);
+    const auto langs = positionsIn(indLangs, tagLangs);
+    const auto types = positionsIn(indTypes, tagTypes);
+    taggedText.reserve(count);
     for (std::size_t i = 0; i < count; ++i)
-        taggedText.push_back({.word = tagWords[i],
-                              .script = positionIn(indScripts, tagScripts[i]),
-                              .lang = positionIn(indLangs, tagLangs[i]),
-                              .type = positionIn(indTypes, tagTypes[i]),
-                              .lemma = tagLemmas[i]});
+        taggedText.push_back(tagWords[i], scripts[tagScripts.numberAt(i)], langs[tagLangs.numberAt(i)],
+                             types[tagTypes.numberAt(i)], tagLemmas[i]);
 }
 
 } // namespace lexiform

@@ -9,8 +9,7 @@ StringList::StringList(std::initializer_list<std::string_view> strings) {
 
 void StringList::clear() {
     pool_.clear();
-    // The memory goes as well: a list of a long text is worth hundreds of megabytes of others.
-    std::vector<StringPool::Number>().swap(entries_);
+    std::vector<StringPool::Number>().swap(entries_); // and its memory, which may be tens of megabytes
 }
 
 bool StringList::operator==(const StringList& other) const {

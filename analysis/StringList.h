@@ -26,6 +26,11 @@ public:
         return pool_[entries_[position]];
     }
 
+    /// The distinct entries, numbered from 0 in order of first appearance.
+    [[nodiscard]] const StringPool& distinct() const { return pool_; }
+    /// The number of the entry at a position below `size()` among the distinct ones.
+    [[nodiscard]] StringPool::Number numberAt(std::size_t position) const { return entries_[position]; }
+
     [[nodiscard]] bool operator==(const StringList& other) const;
 
 private:

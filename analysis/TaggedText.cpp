@@ -23,8 +23,17 @@ std::optional<std::string> copyOf(const std::string* string) {
 } // namespace
 
 void TaggedText::push_back(const tagComplex& record) {
-    records_.push_back({numberOf(record.word), narrowed(record.script), narrowed(record.lang),
-                        narrowed(record.type), numberOf(record.lemma)});
+    add(numberOf(record.word), record.script, record.lang, record.type, numberOf(record.lemma));
+}
+
+void TaggedText::push_back(std::string_view word, std::int64_t script, std::int64_t lang, std::int64_t type,
+                           std::string_view lemma) {
+    add(strings_.numberOf(word), script, lang, type, strings_.numberOf(lemma));
+}
+
+void TaggedText::add(StringPool::Number word, std::int64_t script, std::int64_t lang, std::int64_t type,
+                     StringPool::Number lemma) {
+    records_.push_back({word, narrowed(script), narrowed(lang), narrowed(type), lemma});
 }
 
 void TaggedText::clear() {

@@ -5,6 +5,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace lexiform {
@@ -12,8 +15,13 @@ namespace lexiform {
 /// A list of `tagComplex` records, twenty bytes each, with each distinct word and lemma kept once.
 class TaggedText {
 public:
+    /// Makes room for that many records.
+    void reserve(std::size_t count) { records_.reserve(count); }
     /// Takes a copy of what `record` says. A position that does not fit 32 bits stops the program.
     void push_back(const tagComplex& record);
+    /// The same for a record whose strings are both there.
+    void push_back(std::string_view word, std::int64_t script, std::int64_t lang, std::int64_t type,
+                   std::string_view lemma);
     void clear();
 
     [[nodiscard]] std::size_t size() const { return records_.size(); }
@@ -42,6 +50,8 @@ private:
         StringPool::Number lemma = 0;
     };
 
+    void add(StringPool::Number word, std::int64_t script, std::int64_t lang, std::int64_t type,
+             StringPool::Number lemma);
     [[nodiscard]] StringPool::Number numberOf(const std::optional<std::string>& string);
     [[nodiscard]] const std::string* string(StringPool::Number number) const;
 

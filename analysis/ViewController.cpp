@@ -11,9 +11,8 @@ ViewController::ViewController(TaggerFactory makeTagger, AnalysisServices servic
     : makeTagger_(std::move(makeTagger)), services_(std::move(services)) {}
 
 void ViewController::clearWordDicts() {
-    for (WordDictionary* dictionary : {&verbs, &nouns, &adjectives, &adverbs, &pronouns, &determiners,
-                                       &particles, &prepositions, &conjunctions, &names})
-        dictionary->clear();
+    for (const auto dictionary : wordDictionaries())
+        (this->*dictionary).clear();
 }
 
 Window& ViewController::window() const {

@@ -81,6 +81,9 @@ public:
         "particle\n\nverb\n\nnoun\n\nadjective\n\nadverb\n\npronoun\n\ndeterminer\n\npreposition\n\n"
         "conjunction";
 
+    /// The ten word dictionaries in their order.
+    static constexpr std::array<WordDictionary ViewController::*, 10> wordDictionaries();
+
     std::weak_ptr<PopUpButton> typesPopup;
     std::weak_ptr<ScrollView> intextScroller;
     std::shared_ptr<TextPane> intextTextbox;
@@ -146,5 +149,12 @@ private:
     TaggerFactory makeTagger_;
     AnalysisServices services_;
 };
+
+constexpr std::array<WordDictionary ViewController::*, 10> ViewController::wordDictionaries() {
+    return {&ViewController::verbs,     &ViewController::nouns,        &ViewController::adjectives,
+            &ViewController::adverbs,   &ViewController::pronouns,     &ViewController::determiners,
+            &ViewController::particles, &ViewController::prepositions, &ViewController::conjunctions,
+            &ViewController::names};
+}
 
 } // namespace lexiform

@@ -11,24 +11,10 @@ namespace lexiform {
 
 namespace {
 
-struct ListedClass {
-    WordDictionary ViewController::*dictionary;
-    std::string_view heading;
-};
-
-// The order of the report, which is not that of the colour key.
-constexpr std::array<ListedClass, 10> listedClasses = {{
-    {&ViewController::verbs, "Verbs"},
-    {&ViewController::nouns, "Nouns"},
-    {&ViewController::adjectives, "Adjectives"},
-    {&ViewController::adverbs, "Adverbs"},
-    {&ViewController::pronouns, "Pronouns"},
-    {&ViewController::determiners, "Determiners"},
-    {&ViewController::particles, "Particles"},
-    {&ViewController::prepositions, "Prepositions"},
-    {&ViewController::conjunctions, "Conjunctions"},
-    {&ViewController::names, "Names"},
-}};
+// In the order of the dictionaries, which is that of the report and not that of the colour key.
+constexpr std::array<std::string_view, 10> headings = {
+    "Verbs",       "Nouns",     "Adjectives",   "Adverbs",      "Pronouns",
+    "Determiners", "Particles", "Prepositions", "Conjunctions", "Names"};
 
 /// The lemma of a record, or its word where it has none.
 const std::string& keyOf(const TaggedText& records, std::size_t i) {
@@ -52,8 +38,8 @@ const std::string& tagOf(const TaggedText& records, std::size_t i, const std::ve
 void ViewController::listConcButton() {
     if (!taggedText.empty()) recountTaggedText();
     std::string report;
-    for (const ListedClass& listed : listedClasses)
-        report += listWordDict(this->*listed.dictionary, listed.heading);
+    for (std::size_t i = 0; i < headings.size(); ++i)
+        report += listWordDict(this->*wordDictionaries().at(i), headings.at(i));
     // The total grows with every listing until the next lexical pass sets it back.
     report += "\nTotal words classified = " + std::to_string(totWordC) + "\n";
     putPaneText(report, concordTextbox, PaneOperation::replace);

@@ -27,7 +27,7 @@ struct SeededHash {
 
 struct CanonicallyEqual {
     [[nodiscard]] bool operator()(const std::string& a, const std::string& b) const {
-        return a == b || composed(a) == composed(b);
+        return canonicallyEqual(a, b);
     }
 };
 
@@ -51,8 +51,10 @@ std::vector<std::string> inHashOrder(const HashSet& set) {
 
 std::vector<std::string> distinctValues(const StringList& list) {
     HashSet set(16, SeededHash{freshSeed()});
-    for (std::size_t i = 0; i < list.size(); ++i)
-        set.insert(list[i]);
+    // In order of first appearance, as the entries themselves would come.
+    const StringPool& distinct = list.distinct();
+    for (StringPool::Number number = 0; number < distinct.size(); ++number)
+        set.insert(distinct[number]);
     return inHashOrder(set);
 }
 

@@ -3,43 +3,48 @@
 #include "base/Unicode.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <string_view>
 #include <utility>
 
 namespace lexiform {
 
 namespace {
 
-struct KeyedLine {
-    std::string line;
-    /// The composed form where it differs from the line; nearly all lines are composed already.
-    std::string key;
-
-    [[nodiscard]] const std::string& sortKey() const { return key.empty() ? line : key; }
+/// A line by its place in the list, under what it is sorted by.
+struct SortKey {
+    std::string_view key;
+    std::uint32_t line;
 };
 
-KeyedLine keyed(std::string line) {
-    std::string key = composed(line);
-    if (key == line) key.clear();
-    return {std::move(line), std::move(key)};
-}
-
-// The order of UTF-8 bytes is the order of scalar values.
-bool precedes(const KeyedLine& a, const KeyedLine& b) {
-    const int order = a.sortKey().compare(b.sortKey());
-    return order != 0 ? order < 0 : a.line < b.line;
+/// The keys of `lines`; the composed forms of the few that are not composed already go into `forms`.
+std::vector<SortKey> keysOf(const std::vector<std::string>& lines, std::vector<std::string>& forms) {
+    forms.reserve(lines.size()); // so that the keys may point into it
+    std::vector<SortKey> keys;
+    keys.reserve(lines.size());
+    for (const std::string& line : lines) {
+        const bool ready = isComposed(line);
+        keys.push_back(
+            {ready ? line : forms.emplace_back(composed(line)), static_cast<std::uint32_t>(keys.size())});
+    }
+    return keys;
 }
 
 } // namespace
 
 std::vector<std::string> sortedLines(std::vector<std::string> lines) {
-    std::vector<KeyedLine> keyedLines;
-    keyedLines.reserve(lines.size());
-    for (std::string& line : lines)
-        keyedLines.push_back(keyed(std::move(line)));
-    std::sort(keyedLines.begin(), keyedLines.end(), precedes);
-    std::transform(keyedLines.begin(), keyedLines.end(), lines.begin(),
-                   [](KeyedLine& sorted) { return std::move(sorted.line); });
-    return lines;
+    std::vector<std::string> forms;
+    std::vector<SortKey> keys = keysOf(lines, forms);
+    // The order of UTF-8 bytes is the order of scalar values.
+    std::sort(keys.begin(), keys.end(), [&lines](const SortKey& a, const SortKey& b) {
+        const int order = a.key.compare(b.key);
+        return order != 0 ? order < 0 : lines[a.line] < lines[b.line];
+    });
+    std::vector<std::string> sorted;
+    sorted.reserve(lines.size());
+    for (const SortKey& key : keys)
+        sorted.push_back(std::move(lines[key.line]));
+    return sorted;
 }
 
 } // namespace lexiform

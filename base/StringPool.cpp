@@ -17,8 +17,7 @@ StringPool::Number StringPool::numberOf(std::string_view string) {
 }
 
 void StringPool::clear() {
-    numbers_.clear();
-    strings_.clear();
+    *this = StringPool(); // gives the memory back as well, which a table keeps when it is only cleared
 }
 
 } // namespace lexiform

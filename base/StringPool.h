@@ -27,9 +27,10 @@ public:
 
     /// The number of `string`, compared exactly; numbers count from 0 in order of first appearance.
     [[nodiscard]] Number numberOf(std::string_view string);
-    /// A number that the pool has given; the string lasts until the pool is cleared.
+    /// A number below `size()`; the string lasts until the pool is cleared.
     [[nodiscard]] const std::string& operator[](Number number) const { return *strings_[number]; }
 
+    [[nodiscard]] std::size_t size() const { return strings_.size(); }
     void clear();
 
 private:

@@ -33,6 +33,13 @@ void require(UErrorCode status) {
     if (U_FAILURE(status)) fatalError("a Unicode operation failed");
 }
 
+const icu::Normalizer2& nfc() {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* const instance = icu::Normalizer2::getNFCInstance(status);
+    require(status);
+    return *instance;
+}
+
 struct CloseText {
     void operator()(UText* text) const { utext_close(text); }
 };
@@ -76,16 +83,27 @@ std::optional<std::size_t> firstInvalidUtf8(std::string_view bytes) {
     return std::nullopt;
 }
 
+bool isComposed(std::string_view text) {
+    if (isAscii(text)) return true;
+    UErrorCode status = U_ZERO_ERROR;
+    const bool composedAlready =
+        nfc().isNormalizedUTF8(icu::StringPiece(text.data(), shortLength(text)), status) != 0;
+    require(status);
+    return composedAlready;
+}
+
 std::string composed(std::string_view text) {
     if (isAscii(text)) return std::string(text);
     UErrorCode status = U_ZERO_ERROR;
-    const icu::Normalizer2* const nfc = icu::Normalizer2::getNFCInstance(status);
-    require(status);
     std::string result;
     icu::StringByteSink<std::string> sink(&result, shortLength(text));
-    nfc->normalizeUTF8(0, {text.data(), shortLength(text)}, sink, nullptr, status);
+    nfc().normalizeUTF8(0, {text.data(), shortLength(text)}, sink, nullptr, status);
     require(status);
     return result;
+}
+
+bool canonicallyEqual(std::string_view a, std::string_view b) {
+    return a == b || composed(a) == composed(b);
 }
 
 std::string_view firstCharacters(std::string_view text, std::size_t count) {

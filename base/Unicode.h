@@ -19,6 +19,12 @@ namespace lexiform {
 /// Bytes that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::string composed(std::string_view text);
 
+/// Whether a text is in normalisation form C already; false where only composing it would tell.
+[[nodiscard]] bool isComposed(std::string_view text);
+
+/// Whether two texts are canonically equivalent, so that a reader cannot tell them apart.
+[[nodiscard]] bool canonicallyEqual(std::string_view a, std::string_view b);
+
 /// The first `count` user-perceived characters (extended grapheme clusters) of a text, all of it when
 /// it has no more.
 [[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t count);

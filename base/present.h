@@ -2,6 +2,7 @@
 
 #include "base/fatalError.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -19,6 +20,14 @@ template <typename T>
 [[nodiscard]] T& present(const std::unique_ptr<T>& reference) {
     if (!reference) fatalError("a required object is not connected");
     return *reference;
+}
+
+/// A function that is there to be called.
+template <typename Result, typename... Arguments>
+[[nodiscard]] const std::function<Result(Arguments...)>&
+present(const std::function<Result(Arguments...)>& function) {
+    if (!function) fatalError("a required function is not connected");
+    return function;
 }
 
 /// Keeps the target of a weak reference alive for as long as the caller holds the result.

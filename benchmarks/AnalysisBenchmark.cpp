@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
         std::fputs("AnalysisBenchmark TEXT [RUNS]\n", stderr);
         return 2;
     }
-    auto text = cli::readText(argv[1]);
+    const auto text = cli::readText(argv[1]);
     if (!text.succeeded()) {
         std::fprintf(stderr, "%s\n", text.fault().message.c_str());
         return 1;
@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
     cli::HeadlessWindow window(linguisticTaggers(std::make_shared<const linguistics::Engine>(models)));
     ViewController& controller = window.controller();
     print("text", static_cast<double>(text.value().size()) / 1e6, "MB");
-    window.setText(std::move(text).value());
+    window.setText(text.value());
 
     print("lexical pass", bestSeconds(runs, [&] { controller.parseText(); }), "s");
     print("list of words", bestSeconds(runs, [&] { controller.listConcButton(); }), "s");

@@ -42,6 +42,11 @@ struct Token {
     std::optional<std::string_view> lemma{};
 };
 
+/// Whether a token is white space, within a line or at its end.
+[[nodiscard]] inline bool isBlank(const Token& token) {
+    return token.kind == TokenKind::whitespace || token.kind == TokenKind::lineBreak;
+}
+
 /// A paragraph, the unit of analysis: its tokens depend on nothing outside it. The line breaks that
 /// end it belong to it, so paragraphs cover the text without gaps.
 struct Paragraph {

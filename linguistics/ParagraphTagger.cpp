@@ -11,10 +11,6 @@ namespace {
 // The script of every language that has a model so far.
 constexpr std::string_view modelScript = "Latn";
 
-bool isGap(const Token& token) {
-    return token.kind == TokenKind::whitespace || token.kind == TokenKind::lineBreak;
-}
-
 // A figure has the script of the words around it but no letters of its own.
 bool isModelWord(const Token& token) {
     return token.kind == TokenKind::word && token.script == modelScript && token.pos != UniversalPos::NUM;
@@ -42,10 +38,20 @@ bool isOpenClass(UniversalPos pos) {
     }
 }
 
-// "&" may be a conjunction, but a mark or an emoji that the model has not seen is no noun.
-void keepMarksFromOpenClasses(std::span<Token* const> tokens, std::span<WordLabels> labels) {
+/// Whether the model cannot be right about a mark. "&" may be a conjunction, but a mark or an emoji that
+/// the model has not seen is no noun, and the quotation marks of another language are punctuation.
+bool isMistakenForMark(UniversalPos label, const Token& mark, std::string_view form) {
+    if (isOpenClass(label)) return true;
+    if (mark.kind != TokenKind::punctuation) return false;
+    const bool isAscii = static_cast<unsigned char>(form.front()) < 0x80;
+    return label == UniversalPos::X || (label == UniversalPos::SYM && !isAscii);
+}
+
+void keepMarksFromOtherClasses(std::span<Token* const> tokens, std::span<const std::string_view> forms,
+                               std::span<WordLabels> labels) {
     for (std::size_t i = 0; i < tokens.size(); ++i)
-        if (tokens[i]->kind != TokenKind::word && isOpenClass(labels[i].pos)) labels[i].pos = tokens[i]->pos;
+        if (tokens[i]->kind != TokenKind::word && isMistakenForMark(labels[i].pos, *tokens[i], forms[i]))
+            labels[i].pos = tokens[i]->pos;
 }
 
 // A name without a proper noun in it is a slip of the model.
@@ -92,7 +98,7 @@ LanguageGuess::Answer ParagraphTagger::guess(std::string_view text, std::span<co
 void ParagraphTagger::tagSentences(std::string_view text, std::span<Token> tokens) {
     for (Token& token : tokens) {
         if (token.startsSentence) tagSentence();
-        if (isGap(token)) continue;
+        if (isBlank(token)) continue;
         words_.push_back(substring(text, token.range));
         wordTokens_.push_back(&token);
     }
@@ -102,7 +108,7 @@ void ParagraphTagger::tagSentences(std::string_view text, std::span<Token> token
 void ParagraphTagger::tagSentence() {
     labels_.assign(words_.size(), WordLabels{});
     tagger_->tag(words_, labels_);
-    keepMarksFromOpenClasses(wordTokens_, labels_);
+    keepMarksFromOtherClasses(wordTokens_, words_, labels_);
     keepNamesWithProperNouns(labels_);
     for (std::size_t i = 0; i < words_.size(); ++i) {
         Token& token = *wordTokens_[i];

@@ -21,10 +21,6 @@ std::string_view scriptOf(const Characters& characters, std::string_view token) 
     return {};
 }
 
-bool isGap(const Token& token) {
-    return token.kind == TokenKind::whitespace || token.kind == TokenKind::lineBreak;
-}
-
 } // namespace
 
 void markScripts(std::string_view text, std::span<Token> tokens) {
@@ -32,7 +28,7 @@ void markScripts(std::string_view text, std::span<Token> tokens) {
     std::string_view current;
     std::size_t undecided = 0;
     for (Token& token : tokens) {
-        const std::string_view own = isGap(token) ? "" : scriptOf(characters, substring(text, token.range));
+        const std::string_view own = isBlank(token) ? "" : scriptOf(characters, substring(text, token.range));
         if (!own.empty()) {
             if (current.empty())
                 for (Token& earlier : tokens.first(undecided))

@@ -4,10 +4,11 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-sources() { git ls-files --cached --others --exclude-standard '*.cpp' '*.h'; }
+# The files matching the patterns that a commit would hold; one that is deleted is no source.
+sources() { git ls-files --cached --others --exclude-standard "$@" | while read -r file; do [ ! -e "$file" ] || echo "$file"; done; }
 
 quick() {
-  sources | xargs clang-format --dry-run --Werror
+  sources '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
   python3 tools/check_layers.py
   for script in run test .ci/run tools/*.sh; do bash -n "$script"; done
 }
@@ -15,7 +16,7 @@ quick() {
 tidy() {
   local config=build/release/compile_commands.json
   [ -f "$config" ] || cmake --preset release >/dev/null
-  git ls-files --cached --others --exclude-standard '*.cpp' | grep -vE '^tests/' |
+  sources '*.cpp' | grep -vE '^tests/' |
     xargs -P "$(nproc)" -n 4 clang-tidy -p build/release --quiet 2>/dev/null
 }
 

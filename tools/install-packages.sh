@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 missing=()
 for group in "$@"; do
   while read -r package; do
-    dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
   done < <(awk -v group="$group" '$1 == group { print $2 }' packages.txt)
 done
 [ ${#missing[@]} -gt 0 ] || exit 0

@@ -6,15 +6,12 @@ namespace lexiform {
 
 namespace {
 
+using linguistics::isBlank;
 using linguistics::NameType;
 using linguistics::Paragraph;
 using linguistics::Token;
 using linguistics::TokenKind;
 using linguistics::UniversalPos;
-
-bool isBlank(const Token& token) {
-    return token.kind == TokenKind::whitespace || token.kind == TokenKind::lineBreak;
-}
 
 bool isOther(const Token& token) {
     return token.name == NameType::none && (token.pos == UniversalPos::X || token.pos == UniversalPos::SYM);

@@ -14,6 +14,16 @@ struct ExportUnderTest : WindowUnderTest {
         output->content = {"the end.", Colour::gray};
     }
 
+    ~ExportUnderTest() {
+        // An open panel keeps itself alive until it is answered.
+        for (const auto& panel : *panels)
+            if (!leavesPanelsOpen) panel->completion = nullptr;
+    }
+    ExportUnderTest(const ExportUnderTest&) = delete;
+    ExportUnderTest& operator=(const ExportUnderTest&) = delete;
+
+    bool leavesPanelsOpen = false;
+
     PlainSavePanel& save() {
         controller->saveConcButton();
         return *panels->back();
@@ -103,7 +113,7 @@ TEST(ConcordanceExport, stillWritesWhenTheWindowIsGone) {
     std::weak_ptr<ViewController> controller;
     {
         ExportUnderTest test{"kept"};
-        test.files->failure = std::nullopt;
+        test.leavesPanelsOpen = true;
         test.save();
         panel = test.panels->back();
         controller = test.controller;
@@ -117,6 +127,15 @@ TEST(ConcordanceExport, stillWritesWhenTheWindowIsGone) {
     panel->confirm("/lists/a.text");
     EXPECT_EQ(files->files.at("/lists/a.text"), "kept");
     EXPECT_TRUE(controller.expired()); // nothing is kept alive once the person has answered
+}
+
+TEST(ConcordanceExport, saysNothingOfAFailureWhenTheOutputPaneIsGone) {
+    ExportUnderTest test;
+    test.files->failure = "No permission.";
+    PlainSavePanel& panel = test.save();
+    test.output->hasStorage = false; // as a pane of a closed window
+    panel.confirm("/lists/a.text");
+    EXPECT_EQ(test.output->plainText(), "the end.");
 }
 
 TEST(ConcordanceExport, doesNothingWithoutAConcordancePane) {

@@ -1,11 +1,19 @@
 #include "analysis/ViewController.h"
 
+#include "tests/support/SpokenDoubles.h"
 #include "tests/support/WindowUnderTest.h"
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
 namespace lexiform {
 namespace {
+
+/// The dictionary that a dying program looks into last.
+const WordDictionary* counted = nullptr;
 
 const ScriptedTagger::Script catTags = {{"The", "Determiner"}, {"cat", "Noun"}, {"sat", "Verb"}};
 
@@ -123,28 +131,30 @@ TEST(LexicalPass, skipsAnOutputPaneWithoutTextStorageAndStillShowsTheKey) {
 }
 
 TEST(LexicalPassDeathTest, stopsTheProgramWithoutAnInputPaneBeforeAnyTagging) {
-    const WindowUnderTest window{"The cat sat.", catTags};
-    window.controller->intextTextbox = nullptr;
-    EXPECT_DEATH(window.controller->parseText(), "not connected");
+    const auto controller =
+        std::make_shared<ViewController>([](std::span<const TagScheme>) -> std::unique_ptr<Tagger> {
+            std::fputs("a tagger was made;", stderr);
+            return nullptr;
+        });
+    EXPECT_DEATH(controller->parseText(), "^fatal error: .*not connected");
 }
 
-TEST(LexicalPassDeathTest, stopsTheProgramWithoutAnOutputPane) {
+TEST(LexicalPassDeathTest, stopsTheProgramWithoutAnOutputPaneAfterTheWordsAreCounted) {
     const WindowUnderTest window{"The cat sat.", catTags};
     window.controller->outtextTextbox = nullptr;
-    EXPECT_DEATH(window.controller->parseText(), "not connected");
+    const auto lastWords = [&] {
+        std::signal(SIGABRT, [](int) { std::_Exit(counted->size() == 1 ? 7 : 8); });
+        counted = &window.controller->verbs;
+        window.controller->parseText();
+    };
+    EXPECT_EXIT(lastWords(), testing::ExitedWithCode(7), "not connected");
 }
-
-/// Says on standard error what it is given, so that a test sees it from outside a dying program.
-class SpokenPane : public PlainTextPane {
-public:
-    void replace(const AttributedText& text) override { std::fputs(text.string().c_str(), stderr); }
-};
 
 TEST(LexicalPassDeathTest, stopsTheProgramWithoutAKeyFieldAfterTheOutputIsShown) {
     const WindowUnderTest window{"The cat sat.", catTags};
     window.controller->outtextTextbox = std::make_shared<SpokenPane>();
     window.controller->colourKeyText = nullptr;
-    EXPECT_DEATH(window.controller->parseText(), "The cat sat\\.fatal error: .*not connected");
+    EXPECT_DEATH(window.controller->parseText(), "shown The cat sat\\.;fatal error: .*not connected");
 }
 
 TEST(LexicalPassDeathTest, stopsTheProgramWithoutATagger) {
@@ -168,7 +178,7 @@ TEST(ParseButtonDeathTest, stopsTheProgramWithoutAPopUpAfterThePass) {
     const WindowUnderTest window{"The cat sat.", catTags};
     window.controller->outtextTextbox = std::make_shared<SpokenPane>();
     window.controller->typesPopup.reset();
-    EXPECT_DEATH(window.controller->parseButton(), "The cat sat\\.fatal error: .*not connected");
+    EXPECT_DEATH(window.controller->parseButton(), "shown The cat sat\\.;fatal error: .*not connected");
 }
 
 } // namespace

@@ -1,17 +1,22 @@
 #include "analysis/ViewController.h"
 
+#include "tests/support/SpokenDoubles.h"
 #include "tests/support/TableTagger.h"
 #include "tests/support/WindowUnderTest.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
+#include <csignal>
+#include <cstdlib>
 
 namespace lexiform {
 namespace {
 
 using Strings = std::vector<std::string>;
+
+/// The list that a dying program looks into last.
+const StringList* kept = nullptr;
 
 const std::vector<TableRow> hiThere = {{"Hi", "Latn", "en", "Interjection", "hi"},
                                        {" ", "Latn", "en", "Whitespace"},
@@ -73,18 +78,40 @@ TEST(MultiSchemePass, givesTokensOfOneTypeOnePositionAndEachTypeOneEntry) {
 }
 
 TEST(MultiSchemePass, clearsItsListsAndKeepsTheIndexesForAnEmptyInputPane) {
-    WindowUnderTest window = windowWith(hiThere);
+    const WindowUnderTest window{"", tableTaggers({})};
+    ViewController& controller = *window.controller;
+    controller.indScripts = controller.indLangs = controller.indTypes = {"kept"};
+    for (StringList* list : {&controller.tagWords, &controller.tagScripts, &controller.tagLangs,
+                             &controller.tagTypes, &controller.tagLemmas})
+        list->push_back("old");
+    controller.taggedText.push_back({});
+    window.output->content = {"old", Colour::text};
+    window.popup->enabled = false;
+
+    controller.multiParse();
+
+    for (const StringList* list : {&controller.tagWords, &controller.tagScripts, &controller.tagLangs,
+                                   &controller.tagTypes, &controller.tagLemmas})
+        EXPECT_TRUE(list->empty());
+    for (const Strings* index : {&controller.indScripts, &controller.indLangs, &controller.indTypes})
+        EXPECT_EQ(*index, Strings{"kept"});
+    EXPECT_TRUE(controller.taggedText.empty());
+    EXPECT_EQ(window.output->plainText(), "");
+    EXPECT_TRUE(window.popup->enabled);
+}
+
+TEST(MultiSchemePass, givesCanonicalEquivalentsOnePosition) {
+    const WindowUnderTest window = windowWith({{"a", "Latn", "en", "Noun"},
+                                               {"b", "Latn", "en", "\u00E9"},
+                                               {"c", "Latn", "en", "e\u0301"},
+                                               {"d", "Latn", "en", "Verb"}});
     window.controller->multiParse();
-    const WindowUnderTest empty{"", tableTaggers({})};
-    empty.controller->indTypes = {"Noun"};
-    empty.controller->tagWords.push_back("old");
-    empty.output->content = {"old", Colour::text};
-    empty.controller->multiParse();
-    EXPECT_TRUE(empty.controller->tagWords.empty());
-    EXPECT_TRUE(empty.controller->taggedText.empty());
-    EXPECT_EQ(empty.controller->indTypes, Strings{"Noun"});
-    EXPECT_EQ(empty.output->plainText(), "");
-    EXPECT_TRUE(empty.popup->enabled);
+    const TaggedText& records = window.controller->taggedText;
+    EXPECT_EQ(window.controller->indTypes.size(), 3U);
+    EXPECT_EQ(window.controller->indTypes.at(static_cast<std::size_t>(records.type(1))), "\u00E9");
+    EXPECT_EQ(records.type(2), records.type(1));
+    EXPECT_NE(records.type(0), records.type(1));
+    EXPECT_NE(records.type(3), records.type(1));
 }
 
 TEST(MultiSchemePass, buildsNoRecordsAndKeepsTheIndexesWhenOneSchemeHasOtherTokens) {
@@ -173,16 +200,24 @@ TEST(MultiSchemePass, showsAnEmptyOutputAndThePreviousKeyWithoutATagger) {
     EXPECT_TRUE(window.popup->enabled);
 }
 
-TEST(MultiSchemePassDeathTest, stopsTheProgramWithoutAnInputPane) {
+TEST(MultiSchemePassDeathTest, stopsTheProgramWithoutAnInputPaneBeforeAnythingIsChanged) {
     const WindowUnderTest window = windowWith(hiThere);
+    window.controller->tagWords = {"old"};
     window.controller->intextTextbox = nullptr;
-    EXPECT_DEATH(window.controller->multiParse(), "not connected");
+    const auto lastWords = [&] {
+        std::signal(SIGABRT, [](int) { std::_Exit(kept->size() == 1 ? 7 : 8); });
+        kept = &window.controller->tagWords;
+        window.controller->multiParse();
+    };
+    EXPECT_EXIT(lastWords(), testing::ExitedWithCode(7), "not connected");
 }
 
-TEST(MultiSchemePassDeathTest, stopsTheProgramWithoutAPopUp) {
+TEST(MultiSchemePassDeathTest, stopsTheProgramWithoutAPopUpAfterTheOutputAndTheKeyAreShown) {
     const WindowUnderTest window = windowWith(hiThere);
+    window.controller->outtextTextbox = std::make_shared<SpokenPane>();
+    window.controller->colourKeyText = std::make_shared<SpokenField>();
     window.controller->typesPopup.reset();
-    EXPECT_DEATH(window.controller->multiParse(), "not connected");
+    EXPECT_DEATH(window.controller->multiParse(), "^shown Hi there\\.;key;fatal error: .*not connected");
 }
 
 TEST(MultiSchemePassDeathTest, stopsTheProgramForATokenOutsideTheText) {

@@ -1,5 +1,6 @@
 #include "analysis/ViewController.h"
 
+#include "tests/support/SpokenDoubles.h"
 #include "tests/support/TableTagger.h"
 #include "tests/support/WindowUnderTest.h"
 
@@ -193,18 +194,11 @@ TEST(SchemeViewsDeathTest, stopTheProgramWithoutAnOutputPane) {
     EXPECT_DEATH(views.controller->showSchemeView(0), "not connected");
 }
 
-/// Says on standard error what it is given, so that a test sees it from outside a dying program.
-class SpokenDefaults : public PlainUserDefaults {
-public:
-    void setString(std::string_view /*value*/, std::string_view key) override {
-        std::fprintf(stderr, "stored %s;", std::string(key).c_str());
-    }
-};
-
-TEST(SchemeViewsDeathTest, stopTheProgramWithoutAKeyFieldBeforeAnythingIsStored) {
+TEST(SchemeViewsDeathTest, stopTheProgramWithoutAKeyFieldAfterTheOutputIsShown) {
     const ViewsUnderTest views;
+    views.controller->outtextTextbox = std::make_shared<SpokenPane>();
     views.controller->colourKeyText = nullptr;
-    EXPECT_DEATH(views.controller->showSchemeView(0), "^fatal error: a required object is not connected");
+    EXPECT_DEATH(views.controller->showSchemeView(4), "^shown mouse море ;fatal error: .*not connected");
 }
 
 TEST(SchemeViewsDeathTest, stopTheProgramWithoutAWindowAfterTheKeyIsStored) {

@@ -82,9 +82,15 @@ TEST(Controller, passesTheRepresentedObjectThrough) {
 TEST(Controller, keepsItsPopUpAndScrollersByWeakReferenceOnly) {
     const auto controller = freshController();
     auto popup = std::make_shared<PlainPopUpButton>();
+    auto scroller = std::make_shared<ScrollView>();
     controller->typesPopup = popup;
+    controller->intextScroller = controller->outtextScroller = controller->concordScroller = scroller;
     popup.reset();
+    scroller.reset();
     EXPECT_TRUE(controller->typesPopup.expired());
+    EXPECT_TRUE(controller->intextScroller.expired());
+    EXPECT_TRUE(controller->outtextScroller.expired());
+    EXPECT_TRUE(controller->concordScroller.expired());
 }
 
 TEST(Controller, keepsItsPanesAlive) {

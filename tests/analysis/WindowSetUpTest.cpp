@@ -1,3 +1,4 @@
+#include "tests/support/SpokenDoubles.h"
 #include "tests/support/WindowUnderTest.h"
 
 #include <gtest/gtest.h>
@@ -93,16 +94,19 @@ TEST(WindowSetUpDeathTest, stopsTheProgramWithoutAPopUp) {
     EXPECT_DEATH(window.controller->viewDidAppear(), "not connected");
 }
 
-TEST(WindowSetUpDeathTest, stopsTheProgramWithoutAnInputPane) {
+TEST(WindowSetUpDeathTest, stopsTheProgramWithoutAnInputPaneAfterThePopUpIsDisabled) {
     const WindowUnderTest window;
+    const auto popup = std::make_shared<SpokenPopUpButton>();
+    window.controller->typesPopup = popup;
     window.controller->intextTextbox = nullptr;
-    EXPECT_DEATH(window.controller->viewDidAppear(), "not connected");
+    EXPECT_DEATH(window.controller->viewDidAppear(), "^disabled;fatal error: .*not connected");
 }
 
-TEST(WindowSetUpDeathTest, stopsTheProgramWithoutABusyIndicator) {
-    const WindowUnderTest window;
+TEST(WindowSetUpDeathTest, stopsTheProgramWithoutABusyIndicatorAfterThePass) {
+    const WindowUnderTest window{"cat", {{"cat", "Noun"}}};
+    window.controller->outtextTextbox = std::make_shared<SpokenPane>();
     window.controller->progressSpinner = nullptr;
-    EXPECT_DEATH(window.controller->viewDidAppear(), "not connected");
+    EXPECT_DEATH(window.controller->viewDidAppear(), "^shown cat;fatal error: .*not connected");
 }
 
 } // namespace

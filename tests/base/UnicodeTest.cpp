@@ -61,6 +61,17 @@ TEST(Composition, makesCanonicallyEquivalentTextsTheSame) {
     EXPECT_EQ(composed("q\u0307\u0323"), "q\u0323\u0307");
 }
 
+TEST(Composition, tellsWhatIsComposedAlready) {
+    EXPECT_TRUE(isComposed("plain"));
+    EXPECT_TRUE(isComposed("caf\u00E9"));
+    EXPECT_FALSE(isComposed("cafe\u0301"));
+}
+
+TEST(Composition, tellsCanonicallyEquivalentTextsFromOthers) {
+    EXPECT_TRUE(canonicallyEqual("caf\u00E9", "cafe\u0301"));
+    EXPECT_FALSE(canonicallyEqual("cafe", "caf\u00E9"));
+}
+
 TEST(FirstCharacters, areCountedAsAPersonCountsThem) {
     EXPECT_EQ(firstCharacters("PersonalName", 5), "Perso");
     EXPECT_EQ(firstCharacters("Latn", 5), "Latn");

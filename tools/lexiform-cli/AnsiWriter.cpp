@@ -4,8 +4,8 @@
 #include "analysis/ViewController.h"
 #include "base/TextRange.h"
 #include "platform/linguistics/LexicalTags.h"
-#include "tools/lexiform-cli/blankTokens.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -34,19 +34,28 @@ void appendPicture(unsigned char control, std::string& out) {
     out += static_cast<char>(control == 0x7F ? 0xA1 : 0x80 + control);
 }
 
-/// C1 controls are two bytes, C2 and 80 to 9F; some terminals obey them.
-bool isC1(std::string_view text, std::size_t at) {
-    return text[at] == '\xC2' && at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0;
+/// How many bytes at `at` are a character that some terminals obey: a C1 control (C2 and 80 to 9F) or
+/// one that turns the direction of writing (U+202A to U+202E, U+2066 to U+2069). 0 for any other.
+std::size_t steeringBytes(std::string_view text, std::size_t at) {
+    const auto byte = [&](std::size_t i) {
+        return at + i < text.size() ? static_cast<unsigned char>(text[at + i]) : 0U;
+    };
+    if (byte(0) == 0xC2) return byte(1) >= 0x80 && byte(1) < 0xA0 ? 2 : 0;
+    if (byte(0) != 0xE2) return 0;
+    const bool turnsText = byte(1) == 0x80 && byte(2) >= 0xAA && byte(2) <= 0xAE;
+    const bool isolates = byte(1) == 0x81 && byte(2) >= 0xA6 && byte(2) <= 0xA9;
+    return turnsText || isolates ? 3 : 0;
 }
 
 void appendHarmless(std::string_view token, std::string& out) {
+    if (token == "\r") token = "\n";
     for (std::size_t at = 0; at < token.size(); ++at) {
         const auto byte = static_cast<unsigned char>(token[at]);
         if (isControl(byte))
             appendPicture(byte, out);
-        else if (isC1(token, at)) {
+        else if (const std::size_t steering = steeringBytes(token, at); steering > 0) {
             out += "\xEF\xBF\xBD"; // U+FFFD
-            ++at;
+            at += steering - 1;
         } else
             out += token[at];
     }

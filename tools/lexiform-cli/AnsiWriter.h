@@ -7,8 +7,9 @@
 
 namespace lexiform::cli {
 
-/// The text itself, every token in the colour of its class, for a terminal. Control characters other
-/// than tabs and line ends are shown as pictures, so that a text cannot steer the terminal.
+/// The text itself, every token in the colour of its class, for a terminal. A text cannot steer the
+/// terminal: control characters other than tabs and line ends are shown as pictures, those that turn
+/// the direction of writing as U+FFFD, and a carriage return alone becomes a line feed.
 class AnsiWriter : public TokenWriter {
 public:
     void paragraph(const linguistics::Paragraph& paragraph, std::string_view text, std::string& out) override;

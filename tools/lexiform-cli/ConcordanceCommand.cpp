@@ -5,21 +5,14 @@
 #include "tools/lexiform-cli/InputText.h"
 #include "tools/lexiform-cli/Sink.h"
 
-#include <array>
-#include <utility>
+#include <string_view>
 
 namespace lexiform::cli {
 
 namespace {
 
-constexpr std::array dictionaries = {&ViewController::verbs,        &ViewController::nouns,
-                                     &ViewController::adjectives,   &ViewController::adverbs,
-                                     &ViewController::pronouns,     &ViewController::determiners,
-                                     &ViewController::particles,    &ViewController::prepositions,
-                                     &ViewController::conjunctions, &ViewController::names};
-
 void addCounts(const ViewController& from, ViewController& to) {
-    for (const auto dictionary : dictionaries)
+    for (const auto dictionary : ViewController::wordDictionaries())
         for (const auto& [word, count] : from.*dictionary) {
             std::int64_t& total = (to.*dictionary)[word];
             total = checkedSum(total, count);
@@ -32,8 +25,8 @@ public:
     Report(const TaggerFactory& makeTagger, bool lemmas)
         : file_(makeTagger), all_(makeTagger), lemmas_(lemmas) {}
 
-    void count(std::string text) {
-        file_.setText(std::move(text));
+    void count(std::string_view text) {
+        file_.setText(text);
         if (lemmas_) {
             file_.controller().multiParse();
             file_.controller().recountTaggedText();
@@ -64,17 +57,19 @@ int concordance(const ConcordanceRequest& request, const TaggerFactory& makeTagg
     Report words(makeTagger, request.lemmas);
     Sink sink(out);
     int status = 0;
+    bool counted = false;
     for (const std::string& file : inputNames(request.files)) {
-        auto text = readText(file);
+        const auto text = readText(file);
         if (!text.succeeded()) {
             report(errors, text.fault().message);
             status = 1;
             continue;
         }
-        words.count(std::move(text).value());
+        words.count(text.value());
+        counted = true;
         if (request.each) sink.pending += file + "\n" + words.take() + "\n";
     }
-    if (!request.each) sink.pending += words.take();
+    if (counted && !request.each) sink.pending += words.take();
     return sink.finish(errors) ? status : 1;
 }
 

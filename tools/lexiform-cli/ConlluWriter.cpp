@@ -2,7 +2,6 @@
 
 #include "base/TextRange.h"
 #include "platform/linguistics/LexicalTags.h"
-#include "tools/lexiform-cli/blankTokens.h"
 
 #include <unicode/utf8.h>
 
@@ -41,8 +40,8 @@ void appendEscaped(UChar32 c, std::string& out) {
 std::string escaped(std::string_view space) {
     std::string escapes;
     const auto* const bytes = reinterpret_cast<const std::uint8_t*>(space.data());
-    const auto size = static_cast<std::int32_t>(space.size());
-    for (std::int32_t at = 0; at < size;) {
+    const std::size_t size = space.size();
+    for (std::size_t at = 0; at < size;) {
         UChar32 c = 0;
         U8_NEXT(bytes, at, size, c);
         appendEscaped(c, escapes);

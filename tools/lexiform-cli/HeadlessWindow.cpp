@@ -68,8 +68,8 @@ HeadlessWindow::HeadlessWindow(TaggerFactory makeTagger)
     controller_->view = view_;
 }
 
-void HeadlessWindow::setText(std::string text) {
-    controller_->setInputText(std::move(text));
+void HeadlessWindow::setText(std::string_view text) {
+    controller_->setInputText(text);
 }
 
 std::string HeadlessWindow::concordance() const {

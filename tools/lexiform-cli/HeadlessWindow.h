@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace lexiform::cli {
 
@@ -16,7 +17,7 @@ public:
 
     [[nodiscard]] ViewController& controller() { return *controller_; }
     /// Puts a text into the input pane.
-    void setText(std::string text);
+    void setText(std::string_view text);
     /// What the concordance pane holds.
     [[nodiscard]] std::string concordance() const;
 

@@ -17,14 +17,19 @@ void Sink::flushIfLarge() {
 
 bool Sink::finish(std::FILE* errors) {
     flush();
-    if (std::fflush(file_) == 0 && !failed_) return true;
-    report(errors, std::string("cannot write the result: ") + std::strerror(errno));
+    if (std::fflush(file_) != 0) note(errno);
+    if (!failed()) return true;
+    report(errors, std::string("cannot write the result: ") + std::strerror(failure_));
     return false;
 }
 
 void Sink::flush() {
-    if (std::fwrite(pending.data(), 1, pending.size(), file_) != pending.size()) failed_ = true;
+    if (std::fwrite(pending.data(), 1, pending.size(), file_) != pending.size()) note(errno);
     pending.clear();
+}
+
+void Sink::note(int error) {
+    if (!failed()) failure_ = error != 0 ? error : EIO;
 }
 
 void report(std::FILE* errors, const std::string& message) {

@@ -14,15 +14,16 @@ public:
     std::string pending;
 
     void flushIfLarge();
-    [[nodiscard]] bool failed() const { return failed_; }
+    [[nodiscard]] bool failed() const { return failure_ != 0; }
     /// Passes on what is left. When some of the output was lost, says so on `errors` and gives false.
     [[nodiscard]] bool finish(std::FILE* errors);
 
 private:
     void flush();
+    void note(int error);
 
     std::FILE* file_;
-    bool failed_ = false;
+    int failure_ = 0; // the system's number of the first error
 };
 
 /// Tells a person what went wrong, on one line.

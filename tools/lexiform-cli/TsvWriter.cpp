@@ -2,7 +2,6 @@
 
 #include "base/TextRange.h"
 #include "platform/linguistics/LexicalTags.h"
-#include "tools/lexiform-cli/blankTokens.h"
 
 namespace lexiform::cli {
 

@@ -14,6 +14,7 @@ QtUserDefaults::QtUserDefaults(const QString& path) : settings_(path, QSettings:
 
 std::optional<std::string> QtUserDefaults::stringForKey(std::string_view key) const {
     const QString name = fromUtf8(key);
+    settings_.sync();
     if (!settings_.contains(name)) return std::nullopt;
     return settings_.value(name).toString().toStdString();
 }

@@ -17,7 +17,7 @@ public:
     void setString(std::string_view value, std::string_view key) override;
 
 private:
-    QSettings settings_;
+    mutable QSettings settings_; // reading takes in what other programs have written
 };
 
 } // namespace lexiform::qt

@@ -29,6 +29,8 @@ QString reasonOf(OpenFault fault) {
         return tr("It is not an ordinary file.");
     case OpenFault::notAllowed:
         return tr("You do not have permission to read it.");
+    case OpenFault::tooLarge:
+        return tr("It is larger than 1 GB, more than a window can show.");
     case OpenFault::unreadable:
         return tr("It could not be read to its end.");
     case OpenFault::refused:

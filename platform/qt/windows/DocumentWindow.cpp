@@ -7,6 +7,7 @@
 
 #include <QCloseEvent>
 #include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -17,6 +18,7 @@ namespace {
 
 constexpr QSize defaultSize{1280, 800};
 constexpr int sideMargin = 8;
+constexpr int standardTypesItem = 3; // of the types pop-up: it runs the lexical pass
 constexpr int busyGap = 6;
 
 } // namespace
@@ -73,8 +75,10 @@ void DocumentWindow::connectCommands() {
     connectCommand(actions_.multiParse, &ViewController::multiParse, &DocumentWindow::showMultiParsed);
     connectCommand(actions_.listWords, &ViewController::listConcButton);
     connectCommand(actions_.saveList, &ViewController::saveConcButton);
-    connect(toolBar_->typesPopUp(), &QComboBox::activated, this,
-            [this] { run(&ViewController::parse2PopupAction); });
+    connect(toolBar_->typesPopUp(), &QComboBox::activated, this, [this](int item) {
+        run(&ViewController::parse2PopupAction,
+            item == standardTypesItem ? &DocumentWindow::showParsed : nullptr);
+    });
     connect(panes_->input(), &QPlainTextEdit::textChanged, this, &DocumentWindow::showUnparsed);
     connect(panes_, &PaneSplitter::arranged, this,
             [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
@@ -114,7 +118,9 @@ void DocumentWindow::showUnparsed() {
 
 void DocumentWindow::restoreState() {
     const QSize size = store_.windowSize();
-    resize((size.isValid() ? size : defaultSize).boundedTo(screen()->availableSize()));
+    // The frame is not there yet: its title bar is allowed for, or the status line ends off the screen.
+    const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    resize((size.isValid() ? size : defaultSize).boundedTo(screen()->availableSize() - titleBar));
     panes_->arrange(store_.paneSizes());
 }
 

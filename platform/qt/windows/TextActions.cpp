@@ -33,6 +33,9 @@ TextActions makeTextActions(QObject* owner) {
         .saveList = makeAction(owner, Glyph::save, tr("&Save list…"), tr("Save the list of words to a file")),
     };
     actions.parse->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_R), QKeySequence(Qt::Key_F5)});
+    actions.multiParse->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
+    actions.listWords->setShortcut(Qt::CTRL | Qt::Key_L);
+    actions.saveList->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_L);
     return actions;
 }
 

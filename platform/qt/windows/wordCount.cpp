@@ -2,7 +2,6 @@
 
 #include "analysis/ClassTable.h"
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -10,11 +9,8 @@ namespace lexiform::qt {
 
 std::int64_t wordCount(const ViewController& controller) {
     std::int64_t sum = 0;
-    for (const WordDictionary* dictionary :
-         {&controller.verbs, &controller.nouns, &controller.adjectives, &controller.adverbs,
-          &controller.pronouns, &controller.determiners, &controller.particles, &controller.prepositions,
-          &controller.conjunctions, &controller.names})
-        for (const auto& [word, count] : *dictionary)
+    for (const auto dictionary : ViewController::wordDictionaries())
+        for (const auto& [word, count] : controller.*dictionary)
             sum += count;
     return sum;
 }

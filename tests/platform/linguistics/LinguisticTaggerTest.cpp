@@ -72,6 +72,21 @@ TEST(LinguisticTagger, givesEveryTokenATagUnderTheLexicalSchemeInEveryScript) {
     EXPECT_EQ(joined, text);
 }
 
+TEST(LinguisticTagger, tellsThePunctuationOfOtherLanguagesInATextThatIsPartlyEnglish) {
+    const std::string text = "He said « Salut ! » and wrote 「はい」。 Then he left the room.";
+    for (const auto& [token, tag] : wordsOf(text)) {
+        if (token == "«" || token == "「") {
+            EXPECT_EQ(tag, "OpenQuote") << token;
+        }
+        if (token == "»" || token == "」") {
+            EXPECT_EQ(tag, "CloseQuote") << token;
+        }
+        if (token == "。") {
+            EXPECT_EQ(tag, "SentenceTerminator");
+        }
+    }
+}
+
 TEST(LinguisticTagger, tagsEachWordOfANameOfTwoWords) {
     const Tagged tagged = wordsOf("Yesterday John Smith walked home.");
     EXPECT_EQ(tagged[2], (std::pair<std::string, std::string>{"John", "PersonalName"}));

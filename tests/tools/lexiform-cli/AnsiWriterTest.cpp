@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
+#include <string>
 
 namespace lexiform::cli {
 namespace {
@@ -19,8 +19,10 @@ std::string written(const HandMadeText& made) {
     return out;
 }
 
-std::string withoutColours(const std::string& out) {
-    return std::regex_replace(out, std::regex("\x1b\\[[0-9;]*m"), "");
+std::string withoutColours(std::string out) {
+    for (std::size_t start = 0; (start = out.find('\x1b', start)) != std::string::npos;)
+        out.erase(start, out.find('m', start) + 1 - start);
+    return out;
 }
 
 TEST(AnsiWriter, writesEveryTokenInTheColourOfItsClass) {
@@ -40,6 +42,13 @@ TEST(AnsiWriter, letsNoTextSteerTheTerminal) {
     made.add("\x1b", {.kind = linguistics::TokenKind::symbol, .pos = SYM}).word("[31m", X);
     made.add("\x7f\xC2\x9B", {.kind = linguistics::TokenKind::symbol, .pos = SYM});
     EXPECT_EQ(withoutColours(written(made)), "␛[31m␡\uFFFD");
+}
+
+TEST(AnsiWriter, letsNoTextOverwriteALineOrTurnItsDirection) {
+    HandMadeText made;
+    made.word("hidden", NOUN, true).lineBreak("\r").word("shown", VERB).lineBreak("\r\n");
+    made.add("\u202E\u2066", {.kind = linguistics::TokenKind::symbol, .pos = SYM}).word("\u202F\u2026", X);
+    EXPECT_EQ(withoutColours(written(made)), "hidden\nshown\r\n\uFFFD\uFFFD\u202F\u2026");
 }
 
 TEST(AnsiWriter, leavesAnEmptyTextEmpty) {

@@ -18,6 +18,13 @@ namespace fs = std::filesystem;
 
 /// A test of a command: a folder of its own, removed afterwards, and what the command wrote.
 class CommandTest : public testing::Test {
+public:
+    static std::string contentOf(const std::string& name) {
+        std::ostringstream content;
+        content << std::ifstream(name, std::ios::binary).rdbuf();
+        return content.str();
+    }
+
 protected:
     CommandTest() {
         const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
@@ -54,12 +61,6 @@ protected:
     std::string errors;
 
 private:
-    static std::string contentOf(const std::string& name) {
-        std::ostringstream content;
-        content << std::ifstream(name, std::ios::binary).rdbuf();
-        return content.str();
-    }
-
     fs::path folder_;
 };
 

@@ -15,11 +15,8 @@ protected:
     }
 };
 
-constexpr const char* sixWords = "\nVerbs:\nsat (1)\n\nTotal Verbs = 1\n"
-                                 "\nNouns:\ncat (1)\nmat (1)\n\nTotal Nouns = 2\n"
-                                 "\nDeterminers:\nthe (2)\n\nTotal Determiners = 2\n"
-                                 "\nPrepositions:\non (1)\n\nTotal Prepositions = 1\n"
-                                 "\nTotal words classified = 6\n";
+const std::string sixWords =
+    CommandTest::contentOf(std::string(LEXIFORM_SOURCE_DIR) + "/tests/golden/six-words.concordance.txt");
 
 TEST_F(ConcordanceCommand, printsWhatTheConcordancePaneWouldHold) {
     EXPECT_EQ(run({.files = {file("six.txt", "The cat sat on the mat.")}}), 0);
@@ -47,6 +44,11 @@ TEST_F(ConcordanceCommand, leavesOutAFileThatCannotBeReadAndSaysSo) {
     EXPECT_EQ(run({.files = {"/no/such/file", file("six.txt", "The cat sat on the mat.")}}), 1);
     EXPECT_EQ(errors, "lexiform-cli: /no/such/file: No such file or directory\n");
     EXPECT_EQ(out, sixWords);
+}
+
+TEST_F(ConcordanceCommand, printsNoReportWhenNoFileCouldBeRead) {
+    EXPECT_EQ(run({.files = {"/no/such/file"}}), 1);
+    EXPECT_EQ(out, "");
 }
 
 } // namespace

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace lexiform::qt {
 namespace {
 
@@ -27,20 +30,32 @@ TEST_F(UserDefaultsFile, keepsStringsExactlyFromOneRunToTheNext) {
     }
 }
 
-TEST_F(UserDefaultsFile, showsAChangeToAnotherProgramAtOnce) {
-    QtUserDefaults one(path());
-    one.setString("a", "theKeyStr");
-    EXPECT_EQ(QtUserDefaults(path()).stringForKey("theKeyStr"), "a");
+/// Stores a string as another program does, in a process of its own.
+void storeElsewhere(const QString& path, std::string_view value, std::string_view key) {
+    const pid_t other = fork();
+    if (other == 0) {
+        QtUserDefaults(path).setString(value, key);
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(other, &status, 0), other);
+    ASSERT_EQ(status, 0);
+}
+
+TEST_F(UserDefaultsFile, showsWhatAnotherProgramHasStored) {
+    QtUserDefaults own(path());
+    own.setString("mine", "theKeyStr");
+    storeElsewhere(path(), "another's, and longer", "theKeyStr");
+    EXPECT_EQ(own.stringForKey("theKeyStr"), "another's, and longer");
 }
 
 TEST_F(UserDefaultsFile, keepsWhatAnotherProgramStoredUnderAnotherKey) {
-    QtUserDefaults one(path());
-    QtUserDefaults other(path());
-    one.setString("key", "theKeyStr");
-    other.setString("title", "windowTitle");
-    one.setString("newer key", "theKeyStr");
-    EXPECT_EQ(QtUserDefaults(path()).stringForKey("theKeyStr"), "newer key");
-    EXPECT_EQ(QtUserDefaults(path()).stringForKey("windowTitle"), "title");
+    QtUserDefaults own(path());
+    own.setString("key", "theKeyStr");
+    storeElsewhere(path(), "title", "windowTitle");
+    own.setString("newer key", "theKeyStr");
+    EXPECT_EQ(own.stringForKey("theKeyStr"), "newer key");
+    EXPECT_EQ(own.stringForKey("windowTitle"), "title");
 }
 
 } // namespace

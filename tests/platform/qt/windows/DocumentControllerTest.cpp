@@ -100,6 +100,15 @@ TEST_F(DocumentControllerTest, tellsOfADevice) {
     EXPECT_EQ(toldFault(), OpenFault::notAFile);
 }
 
+TEST_F(DocumentControllerTest, tellsOfAFileThatIsTooLargeWithoutReadingIt) {
+    const QString path = desktop.file("endless.txt", "");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize((qint64{1} << 30) + 1)); // takes no room on the disk
+    EXPECT_FALSE(desktop.documents.open({path}));
+    EXPECT_EQ(toldFault(), OpenFault::tooLarge);
+}
+
 /// The superuser may read everything: for its lifetime the test is somebody else.
 class NoSuperuser {
 public:

@@ -5,6 +5,7 @@
 
 #include <QMenuBar>
 #include <QStandardItemModel>
+#include <QStyle>
 #include <QTest>
 #include <QToolButton>
 
@@ -163,10 +164,11 @@ TEST_F(DocumentWindowTest, laysItsBarsOutAsDrawn) {
     EXPECT_EQ(window.panes()->mapTo(&window, QPoint()), QPoint(8, 80));
 }
 
-TEST_F(DocumentWindowTest, opensAtItsDefaultSizeOrAsLargeAsTheScreen) {
+TEST_F(DocumentWindowTest, opensAtItsDefaultSizeOrAsLargeAsTheScreenBelowItsTitleBar) {
     desktop.documents.newDocument();
-    const QSize screen = desktop.window().screen()->availableSize();
-    EXPECT_EQ(desktop.window().size(), QSize(1280, 800).boundedTo(screen));
+    const DocumentWindow& window = desktop.window();
+    const QSize titleBar(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    EXPECT_EQ(window.size(), QSize(1280, 800).boundedTo(window.screen()->availableSize() - titleBar));
 }
 
 TEST_F(DocumentWindowTest, fitsASmallScreen) {

@@ -68,6 +68,13 @@ TEST_F(SchemeCommands, showEachViewThatThePopUpOffers) {
     EXPECT_NE(window->panes()->key()->text().find("Noun"), std::string::npos);
 }
 
+TEST_F(SchemeCommands, sayThatTheTextIsParsedAfterTheStandardTypes) {
+    window->panes()->input()->insertPlainText("!");
+    EXPECT_EQ(window->statusLine()->text(), "Not parsed yet");
+    choose(3);
+    EXPECT_EQ(window->statusLine()->text(), "2 words, parsed");
+}
+
 TEST_F(SchemeCommands, storeTheWholeKeyAndTheTitleOfTheWindow) {
     EXPECT_EQ(desktop.defaults->stringForKey("windowTitle"), "Untitled");
     EXPECT_NE(desktop.defaults->stringForKey("theKeyStr").value().find("Whitespace"), std::string::npos);
