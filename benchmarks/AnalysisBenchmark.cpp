@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
     print("peak memory so far", peakMegabytes(), "MB");
     const double before = residentMegabytes();
     print("multi-scheme pass", bestSeconds(runs, [&] { controller.multiParse(); }), "s");
-    print("records and lists", residentMegabytes() - before, "MB");
+    print("resident memory grown", residentMegabytes() - before, "MB");
     print("tokens", static_cast<double>(controller.taggedText.size()) / 1e6, "million");
     for (const int view : {0, 1, 2, 4})
         print(("view " + std::to_string(view)).c_str(),
