@@ -31,7 +31,8 @@ CLI::App* addTag(CLI::App& app, TagRequest& request) {
 CLI::App* addConcordance(CLI::App& app, ConcordanceRequest& request) {
     CLI::App* const command = app.add_subcommand(
         "concordance", "Lists the words of each class with their counts; several files are one report.");
-    command->add_flag("--lemmas", request.lemmas, "Counts dictionary forms rather than words as written");
+    command->add_flag("--lemmas", request.lemmas,
+                      "Counts dictionary forms where the model gives them, not words as written");
     command->add_flag("--each", request.each, "Gives each file a report of its own, under its name");
     command->add_option("FILE", request.files, fileHelp);
     return command;
