@@ -56,6 +56,12 @@ Outcome<Request, Exit> parseCommandLine(int argc, const char* const* argv, const
     const CLI::App* const concordanceCommand = addConcordance(app, concordance);
     try {
         app.parse(argc, argv);
+    } catch (const CLI::RequiredError& error) {
+        // Of a word that is no command the library says only that there is no command.
+        if (argc > 1 && argv[1][0] != '-' && app.get_subcommands().empty())
+            return Exit{misused, std::string("There is no command “") + argv[1] +
+                                     "”.\nRun with --help for those that are.\n"};
+        return exitFor(app, error);
     } catch (const CLI::ParseError& error) {
         return exitFor(app, error);
     }

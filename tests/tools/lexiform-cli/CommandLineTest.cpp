@@ -44,6 +44,12 @@ TEST(CommandLine, exitsWithTwoWhenItIsMisused) {
     EXPECT_EQ(statusOf({"tag", "--key"}), 2);
 }
 
+TEST(CommandLine, namesAWordThatIsNoCommand) {
+    const char* const arguments[] = {"lexiform-cli", "paint"};
+    EXPECT_EQ(parseCommandLine(2, arguments, "1.2.3").fault().message,
+              "There is no command “paint”.\nRun with --help for those that are.\n");
+}
+
 TEST(CommandLine, exitsWithNothingWrongAfterHelpAndVersion) {
     EXPECT_EQ(statusOf({"--help"}), 0);
     EXPECT_EQ(statusOf({"tag", "--help"}), 0);
