@@ -35,6 +35,11 @@ function(lexiform_layer name)
   endif()
 endfunction()
 
+# What tests are compiled with besides: the optimiser spends most of a build on their macros.
+add_library(lexiform_test_options INTERFACE)
+target_compile_options(lexiform_test_options INTERFACE -O0)
+target_link_libraries(lexiform_test_options INTERFACE lexiform_options)
+
 # `lexiform_tests(NAME USES layers LINKS libraries)` makes one GoogleTest program from a tests folder.
 function(lexiform_tests name)
   cmake_parse_arguments(TESTS "" "" "USES;LINKS" ${ARGN})
@@ -42,7 +47,7 @@ function(lexiform_tests name)
   list(TRANSFORM TESTS_USES PREPEND lexiform_)
   add_executable(${name}-tests ${sources})
   target_link_libraries(${name}-tests PRIVATE ${TESTS_USES} ${TESTS_LINKS}
-    lexiform_options GTest::gmock GTest::gtest_main)
+    lexiform_test_options GTest::gmock GTest::gtest_main)
   target_compile_definitions(${name}-tests PRIVATE
     LEXIFORM_MODELS_DIR="${PROJECT_SOURCE_DIR}/resources/models"
     LEXIFORM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
