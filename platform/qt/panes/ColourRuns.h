@@ -25,7 +25,7 @@ public:
     void visit(std::size_t start, QStringView text, const Visitor& visitor) const;
 
 private:
-    // Four bytes do: a document of the editor holds no more than 2^31 UTF-16 units.
+    // Four bytes do for an offset in bytes: no more than 1 GiB of UTF-8 is read from a file.
     std::vector<std::uint32_t> ends_;
     std::vector<Colour> colours_;
 };

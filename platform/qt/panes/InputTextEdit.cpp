@@ -21,10 +21,6 @@ bool endsALine(const QKeyEvent& event) {
            event.matches(QKeySequence::InsertLineSeparator);
 }
 
-bool walksHistory(const QKeyEvent& event) {
-    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
-}
-
 bool deletesForwards(const QKeyEvent& event) {
     return event.matches(QKeySequence::Delete) || event.matches(QKeySequence::DeleteEndOfWord);
 }
@@ -43,8 +39,6 @@ TextBlocks withOwnLineEnds(TextBlocks blocks, LineEnd own) {
 InputTextEdit::InputTextEdit(QWidget* parent) : PaneTextEdit(parent), softBreaks_(document()) {
     setTextInteractionFlags(Qt::TextEditorInteraction);
     setTabChangesFocus(false);
-    connect(document(), &QTextDocument::contentsChange, this,
-            [this](int from, int /*removed*/, int added) { softBreaks_.noteChange(from, added); });
 }
 
 void InputTextEdit::keyPressEvent(QKeyEvent* event) {
@@ -54,18 +48,12 @@ void InputTextEdit::keyPressEvent(QKeyEvent* event) {
         QWidget::focusNextPrevChild(event->key() == Qt::Key_Tab);
         return;
     }
-    if (walksHistory(*event)) {
-        PaneTextEdit::keyPressEvent(event);
-        softBreaks_.forgetChanges();
-        return;
-    }
     if (endsALine(*event)) {
         typeLineEnd();
     } else {
         stepOverSoftBreak(*event);
         PaneTextEdit::keyPressEvent(event);
     }
-    softBreaks_.mend();
 }
 
 void InputTextEdit::typeLineEnd() {
@@ -88,16 +76,6 @@ void InputTextEdit::stepOverSoftBreak(const QKeyEvent& event) {
     setTextCursor(cursor);
 }
 
-void InputTextEdit::inputMethodEvent(QInputMethodEvent* event) {
-    PaneTextEdit::inputMethodEvent(event);
-    softBreaks_.mend();
-}
-
-void InputTextEdit::dropEvent(QDropEvent* event) {
-    PaneTextEdit::dropEvent(event);
-    softBreaks_.mend();
-}
-
 bool InputTextEdit::canInsertFromMimeData(const QMimeData* source) const {
     return source->hasText();
 }
@@ -107,7 +85,6 @@ void InputTextEdit::insertFromMimeData(const QMimeData* source) {
     const std::string pasted = source->text().toStdString();
     insertBlocks(cursor, withOwnLineEnds(cutIntoBlocks(pasted), ownLineEnd()), ownLineEnd());
     setTextCursor(cursor);
-    softBreaks_.mend();
 }
 
 } // namespace lexiform::qt

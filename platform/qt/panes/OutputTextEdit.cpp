@@ -83,7 +83,7 @@ QMimeData* OutputTextEdit::createMimeDataFromSelection() const {
     return new ColouredMimeData(exactSelection(), colouredSelection());
 }
 
-// Line ends take the colour of what precedes them: nobody sees it.
+// Line ends take the colour of the text without a class: nobody sees it.
 AttributedText OutputTextEdit::colouredSelection() const {
     const QTextCursor cursor = textCursor();
     AttributedText selection;

@@ -1,6 +1,5 @@
 #include "platform/qt/panes/PaneFrame.h"
 
-#include "platform/qt/panes/KeyTextEdit.h"
 #include "platform/qt/theme/Appearance.h"
 
 #include <QEvent>
@@ -17,8 +16,6 @@ constexpr int headingHeight = 40;
 constexpr int headingLeft = 24;
 // Headings sit nearer to their text than to the frame.
 constexpr int headingDrop = 4;
-constexpr int leastWidth = 200;
-constexpr int leastNarrowWidth = 152;
 
 QFont headingFont(QFont font) {
     font.setPointSizeF(font.pointSizeF() - 1);
@@ -37,7 +34,6 @@ PaneFrame::PaneFrame(const QString& heading, QWidget* pane, QWidget* parent)
     pane_->installEventFilter(this);
     setAccessibleName(heading_);
     pane_->setAccessibleName(heading_);
-    setMinimumWidth(qobject_cast<KeyTextEdit*>(pane_) != nullptr ? leastNarrowWidth : leastWidth);
 }
 
 void PaneFrame::paintEvent(QPaintEvent* /*event*/) {

@@ -58,7 +58,7 @@ void PaneTextEdit::replaceText(const AttributedText& text) {
 }
 
 void PaneTextEdit::appendText(const AttributedText& text) {
-    const TextBlocks blocks = cutIntoBlocks(text.string(), document()->lastBlock().length() - 1);
+    const TextBlocks blocks = cutIntoBlocks(text.string(), document()->lastBlock().text());
     const bool undoable = document()->isUndoRedoEnabled();
     const int anchor = textCursor().anchor();
     const int position = textCursor().position();

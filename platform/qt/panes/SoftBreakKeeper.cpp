@@ -26,8 +26,16 @@ bool joinsNext(const QTextBlock& block) {
 
 } // namespace
 
+SoftBreakKeeper::SoftBreakKeeper(QTextDocument* document) : document_(document) {
+    connect(document, &QTextDocument::contentsChange, this,
+            [this](int from, int /*removed*/, int added) { noteChange(from, added); });
+}
+
+// What the program puts in, with no history of edits, is in order already. The document is not to be
+// edited while it tells of a change.
 void SoftBreakKeeper::noteChange(int from, int added) {
-    if (!document_->isUndoRedoEnabled()) return;
+    if (!document_->isUndoRedoEnabled()) return forgetChanges();
+    if (first_ < 0) QMetaObject::invokeMethod(this, &SoftBreakKeeper::mend, Qt::QueuedConnection);
     first_ = first_ < 0 ? from : std::min(first_, from);
     last_ = std::max(last_, from + added);
 }
@@ -36,7 +44,9 @@ void SoftBreakKeeper::forgetChanges() {
     first_ = last_ = -1;
 }
 
+// After an undo, what came back is in order, and an edit would cut off the redo.
 void SoftBreakKeeper::mend() {
+    if (document_->isRedoAvailable()) forgetChanges();
     if (first_ < 0) return;
     QTextCursor last(document_);
     last.setPosition(std::min(last_, document_->characterCount() - 1));

@@ -5,6 +5,7 @@
 
 #include <QByteArrayView>
 #include <QStringDecoder>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <array>
@@ -35,9 +36,21 @@ FoundEnd nextLineEnd(std::string_view utf8, std::size_t from) {
     return {utf8.size(), 0, LineEnd::soft};
 }
 
+// How much of `line` finishes the grapheme cluster with which `before` ends.
+qsizetype restOfCluster(QStringView before, QStringView line) {
+    constexpr qsizetype context = 64;
+    if (before.isEmpty() || before.size() >= longestCluster) return 0;
+    const qsizetype seam = std::min(before.size(), context);
+    QString around = before.last(seam).toString();
+    around.append(line.first(std::min(line.size(), context)));
+    QTextBoundaryFinder clusters(QTextBoundaryFinder::Grapheme, around);
+    clusters.setPosition(seam);
+    return clusters.isAtBoundary() ? 0 : clusters.toNextBoundary() - seam;
+}
+
 class BlockCutter {
 public:
-    BlockCutter(std::string_view utf8, qsizetype occupied) : utf8_(utf8), occupied_(occupied) {
+    BlockCutter(std::string_view utf8, QStringView before) : utf8_(utf8), before_(before) {
         blocks_.text.reserve(static_cast<qsizetype>(utf8.size()));
         blocks_.starts.push_back(0);
     }
@@ -55,31 +68,33 @@ public:
 private:
     void addLine(std::size_t start, std::size_t length) {
         const QStringView line = decoded(utf8_.substr(start, length));
-        if (occupied_ + line.size() <= longestPiece)
+        if (before_.size() + line.size() <= longestPiece)
             blocks_.text.append(line);
         else
             addInPieces(line, start);
     }
 
     void addInPieces(QStringView line, std::size_t start) {
-        // Room for a few characters even in a full block: where it ends, a cluster may go on.
-        qsizetype room = std::max<qsizetype>(longestPiece - occupied_, 64);
         for (;;) {
-            const QStringView piece = line.first(softBreakIn(line, room));
+            const QStringView piece = line.first(firstPieceOf(line));
             blocks_.text.append(piece);
             if (piece.size() == line.size()) return;
             line = line.sliced(piece.size());
             start += utf8Length(piece);
             endBlock(LineEnd::soft, start);
-            room = longestPiece;
         }
+    }
+
+    [[nodiscard]] qsizetype firstPieceOf(QStringView line) const {
+        const qsizetype room = longestPiece - before_.size();
+        return room > 0 ? softBreakIn(line, room) : restOfCluster(before_, line);
     }
 
     void endBlock(LineEnd end, std::size_t nextStart) {
         blocks_.text.append(QChar::ParagraphSeparator);
         blocks_.ends.push_back(end);
         blocks_.starts.push_back(nextStart);
-        occupied_ = 0;
+        before_ = {};
     }
 
     // The view is good until the next line. A byte order mark stays: it is a character of the text.
@@ -94,15 +109,15 @@ private:
     }
 
     std::string_view utf8_;
-    qsizetype occupied_;
+    QStringView before_; ///< what already stands in the block
     QString line_;
     TextBlocks blocks_;
 };
 
 } // namespace
 
-TextBlocks cutIntoBlocks(std::string_view utf8, qsizetype occupied) {
-    return BlockCutter(utf8, occupied).cut();
+TextBlocks cutIntoBlocks(std::string_view utf8, QStringView before) {
+    return BlockCutter(utf8, before).cut();
 }
 
 LineEnd commonestLineEnd(const TextBlocks& blocks) {

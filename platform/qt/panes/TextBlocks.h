@@ -18,9 +18,9 @@ struct TextBlocks {
     std::vector<std::size_t> starts; ///< the byte at which each block begins; one more than `ends`
 };
 
-/// Cuts a UTF-8 text in one pass. `occupied` counts the UTF-16 units that already stand in the block
-/// to which the first one is added. Bytes that are not UTF-8 become U+FFFD.
-[[nodiscard]] TextBlocks cutIntoBlocks(std::string_view utf8, qsizetype occupied = 0);
+/// Cuts a UTF-8 text in one pass. `before` is what already stands in the block to which the first one
+/// is added. Bytes that are not UTF-8 become U+FFFD.
+[[nodiscard]] TextBlocks cutIntoBlocks(std::string_view utf8, QStringView before = {});
 
 /// The line end that most lines have; a line feed for a text of one line. Noncharacters that the
 /// editor takes for block ends are nobody's line ends.

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
 #include <QMimeData>
 #include <QTest>
 #include <QTextBlock>
@@ -43,11 +44,14 @@ public:
 
     Editor& press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(this, key, modifiers);
-        return *this;
+        return settled();
     }
 
     Editor& type(const QString& keys) {
-        QTest::keyClicks(this, keys);
+        for (const QChar key : keys) {
+            QTest::keyClicks(this, key);
+            settled();
+        }
         return *this;
     }
 
@@ -55,7 +59,21 @@ public:
         QMimeData data;
         data.setText(pasted);
         insertFromMimeData(&data);
-        return *this;
+        return settled();
+    }
+
+    // Chooses a command of the context menu.
+    Editor& choose(const char* name) {
+        const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+        menu->findChild<QAction*>(name)->trigger();
+        return settled();
+    }
+
+    int longestBlock() const {
+        int longest = 0;
+        for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+            longest = std::max(longest, block.length() - 1);
+        return longest;
     }
 
     int softBreaks() const {
@@ -63,6 +81,12 @@ public:
         const auto ends = std::count(raw.begin(), raw.end(), QChar(QChar::ParagraphSeparator));
         std::string shown = text();
         return static_cast<int>(ends) - static_cast<int>(std::count(shown.begin(), shown.end(), '\n'));
+    }
+
+private:
+    Editor& settled() {
+        QCoreApplication::processEvents();
+        return *this;
     }
 };
 
@@ -286,6 +310,45 @@ TEST(SoftBreak, comesWhenTypingMakesALineTooLong) {
     while (editor.document()->isUndoAvailable())
         editor.undo();
     EXPECT_EQ(editor.text(), words(3999));
+}
+
+TEST(SoftBreak, comesWhenACommandJoinsTwoLongLines) {
+    for (const char* command : {"edit-cut", "edit-delete"}) {
+        Editor editor(words(3900) + "\n" + words(3900));
+        editor.select(3900, 3901).choose(command);
+        EXPECT_EQ(editor.text(), words(3900) + words(3900));
+        EXPECT_LE(editor.longestBlock(), longestPiece) << command;
+        editor.choose("edit-undo");
+        EXPECT_EQ(editor.text(), words(3900) + "\n" + words(3900));
+        EXPECT_EQ(editor.softBreaks(), 0);
+        EXPECT_FALSE(editor.document()->isUndoAvailable());
+        editor.choose("edit-redo");
+        EXPECT_EQ(editor.text(), words(3900) + words(3900));
+        EXPECT_LE(editor.longestBlock(), longestPiece) << command;
+    }
+}
+
+TEST(SoftBreak, comesAfterARedoOfAnEditThatWasUndoneAtOnce) {
+    Editor editor(words(3900) + "\n" + words(3900));
+    editor.select(3900, 3901).cut();
+    editor.undo();
+    editor.choose("edit-redo");
+    EXPECT_LE(editor.longestBlock(), longestPiece);
+    editor.choose("edit-undo");
+    EXPECT_EQ(editor.text(), words(3900) + "\n" + words(3900));
+}
+
+TEST(SoftBreak, leavesTheRestOfTheHistoryToARedo) {
+    Editor editor(words(3900) + "\n" + words(3900));
+    editor.select(3900, 3901).choose("edit-cut").select(10, 20).choose("edit-delete");
+    const std::string last = editor.text();
+    editor.choose("edit-undo").choose("edit-undo");
+    EXPECT_FALSE(editor.document()->isUndoAvailable());
+    editor.choose("edit-redo");
+    EXPECT_LE(editor.longestBlock(), longestPiece);
+    ASSERT_TRUE(editor.document()->isRedoAvailable());
+    editor.choose("edit-redo");
+    EXPECT_EQ(editor.text(), last);
 }
 
 /// Random edits through the keyboard against the same edits of a string, then all of them undone.

@@ -133,6 +133,34 @@ TEST(SoftBreaks, letAClusterReachPastTheLimit) {
     EXPECT_EQ(softBreakIn(tower.sliced(1), 4000), 6001);
 }
 
+TEST(SoftBreaks, keepABlockShortThatGrowsInSmallSteps) {
+    OutputTextEdit pane;
+    pane.replaceText(plain(repeated("x", 3990)));
+    for (int i = 0; i < 500; ++i)
+        pane.appendText(plain("0123456789"));
+    EXPECT_EQ(pane.text(), repeated("x", 3990) + repeated("0123456789", 500));
+    for (QTextBlock block = pane.document()->begin(); block.isValid(); block = block.next())
+        EXPECT_LE(block.length(), longestPiece + 1);
+}
+
+TEST(SoftBreaks, comeAfterTheClusterThatFillsABlockAndGoesOn) {
+    OutputTextEdit pane;
+    pane.replaceText(plain(repeated("x", 4000)));
+    pane.appendText(plain("\xCC\x81y"));
+    EXPECT_EQ(pane.document()->begin().length(), 4002);
+    EXPECT_EQ(pane.document()->begin().next().text(), QStringLiteral("y"));
+    EXPECT_EQ(pane.text(), repeated("x", 4000) + "\xCC\x81y");
+}
+
+TEST(SoftBreaks, cutAClusterThatWillNotEnd) {
+    OutputTextEdit pane;
+    pane.replaceText(plain(repeated("x", 4000)));
+    for (int i = 0; i < 500; ++i)
+        pane.appendText(plain(repeated("\xCC\x81", 10)));
+    EXPECT_EQ(pane.text(), repeated("x", 4000) + repeated("\xCC\x81", 5000));
+    EXPECT_LE(pane.document()->begin().length(), longestCluster + 1);
+}
+
 TEST(ReplacedText, leavesNoHistoryAndAnUnmodifiedDocument) {
     InputTextEdit pane;
     pane.insertPlainText("typed");

@@ -1,6 +1,4 @@
 #include "platform/qt/panes/PaneFrame.h"
-#include "platform/qt/panes/InputTextEdit.h"
-#include "platform/qt/panes/KeyTextEdit.h"
 #include "platform/qt/panes/OutputTextEdit.h"
 #include "platform/qt/theme/Palette.h"
 
@@ -95,13 +93,6 @@ TEST_F(FramedPane, hasAnAccessibleNameAndText) {
     EXPECT_TRUE(accessible->state().readOnly);
     ASSERT_NE(accessible->textInterface(), nullptr);
     EXPECT_EQ(accessible->textInterface()->text(5, 10), QStringLiteral("words"));
-}
-
-TEST(PaneFrameWidth, hasTheLeastThatEachKindNeeds) {
-    const PaneFrame input("Input", new InputTextEdit);
-    const PaneFrame key("Key", new KeyTextEdit);
-    EXPECT_EQ(input.minimumWidth(), 200);
-    EXPECT_EQ(key.minimumWidth(), 152);
 }
 
 } // namespace lexiform::qt

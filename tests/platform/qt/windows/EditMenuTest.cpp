@@ -1,9 +1,11 @@
 #include "platform/qt/windows/EditMenu.h"
+#include "platform/qt/panes/softBreak.h"
 
 #include "tests/platform/qt/windows/DesktopUnderTest.h"
 
 #include <QClipboard>
 #include <QMenuBar>
+#include <QTextBlock>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -103,6 +105,23 @@ TEST_F(EditMenuTest, cutsCopiesAndPastes) {
     action("Paste")->trigger();
     action("Paste")->trigger();
     EXPECT_EQ(window.panes()->input()->text(), "The cat sat.The cat sat.");
+}
+
+TEST_F(EditMenuTest, keepsLinesShortEnoughToPaint) {
+    InputTextEdit& input = *window.panes()->input();
+    const std::string line(3900, 'x');
+    input.replaceText(AttributedText(line + "\n" + line, Colour::text));
+    focus(&input);
+    QTextCursor lineEnd(input.document());
+    lineEnd.setPosition(3900);
+    lineEnd.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+    input.setTextCursor(lineEnd);
+    for (const char* command : {"Cut", "Undo", "Redo"}) {
+        action(command)->trigger();
+        QApplication::processEvents();
+        EXPECT_LE(input.document()->begin().length(), longestPiece + 1) << command;
+    }
+    EXPECT_EQ(input.text(), line + line);
 }
 
 TEST_F(EditMenuTest, leavesTheOtherWindowsAlone) {
