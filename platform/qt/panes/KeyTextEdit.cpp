@@ -1,5 +1,7 @@
 #include "platform/qt/panes/KeyTextEdit.h"
 
+#include "platform/qt/panes/PaneDocumentLayout.h"
+#include "platform/qt/panes/commaBreaks.h"
 #include "platform/qt/theme/Appearance.h"
 
 #include <QFontMetricsF>
@@ -18,6 +20,10 @@ constexpr qreal swatchRadius = 3;
 constexpr int classColours = static_cast<int>(Colour::text);
 
 } // namespace
+
+KeyTextEdit::KeyTextEdit(QWidget* parent) : PaneTextEdit(keyMargins, parent) {
+    paneLayout().setLineBreaking(breakAfterCommas);
+}
 
 void KeyTextEdit::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());

@@ -5,14 +5,15 @@
 namespace lexiform::qt {
 
 /// The colour key: lines with an empty line between each two, and beside line k a swatch of class
-/// colour k. An empty line has no swatch, so that an empty key shows nothing at all.
+/// colour k. An empty line has no swatch, so that an empty key shows nothing at all. A line is
+/// wrapped between its values.
 class KeyTextEdit : public PaneTextEdit {
     Q_OBJECT
 
 public:
     static constexpr QMargins keyMargins{44, 4, 8, 8};
 
-    explicit KeyTextEdit(QWidget* parent = nullptr) : PaneTextEdit(keyMargins, parent) {}
+    explicit KeyTextEdit(QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

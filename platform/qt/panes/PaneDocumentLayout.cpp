@@ -41,12 +41,29 @@ QRectF PaneDocumentLayout::blockBoundingRect(const QTextBlock& block) const {
     if (block.isValid() && preparation_) preparation_(block);
     QRectF rect = QPlainTextDocumentLayout::blockBoundingRect(block);
     if (rect.isNull()) return rect;
+    if (lineBreaking_) breakLines(block);
     rect.setHeight(spaceLines(block));
     return rect;
 }
 
 void PaneDocumentLayout::documentChanged(int from, int removed, int added) {
     if (!quiet_) QPlainTextDocumentLayout::documentChanged(from, removed, added);
+}
+
+// The editor breaks a block first, which gives the layout its own wrap mode and all lines one width.
+// Another wrap mode tells which blocks have been broken anew since. The scroll bar follows the number
+// of lines.
+void PaneDocumentLayout::breakLines(const QTextBlock& block) const {
+    QTextLayout& layout = *block.layout();
+    QTextOption option = layout.textOption();
+    if (option.wrapMode() == QTextOption::NoWrap || block.textDirection() == Qt::RightToLeft) return;
+    lineBreaking_(layout, block.text(), layout.lineAt(0).width());
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    const int before = document()->lineCount();
+    QTextBlock(block).setLineCount(layout.lineCount());
+    if (document()->lineCount() != before)
+        emit const_cast<PaneDocumentLayout*>(this)->documentSizeChanged(documentSize());
 }
 
 // What a line lacks to the pitch is left free below it. Above the first block the editor leaves the

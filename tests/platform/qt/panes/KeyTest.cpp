@@ -3,6 +3,8 @@
 #include "platform/qt/panes/PaneFrame.h"
 #include "platform/qt/theme/Palette.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QImage>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -45,6 +47,18 @@ protected:
     double middleOfLine(int block) {
         QTextCursor cursor(key->document()->findBlockByNumber(block));
         return key->cursorRect(cursor).center().y();
+    }
+
+    // The visual lines of a block as texts.
+    QStringList linesOf(int block) {
+        const QTextBlock shownBlock = key->document()->findBlockByNumber(block);
+        (void)shown();
+        QStringList lines;
+        for (int i = 0; i < shownBlock.layout()->lineCount(); ++i) {
+            const QTextLine line = shownBlock.layout()->lineAt(i);
+            lines.append(shownBlock.text().mid(line.textStart(), line.textLength()));
+        }
+        return lines;
     }
 
     KeyTextEdit* key;
@@ -101,6 +115,60 @@ TEST_F(Key, marksAWrappedLineAtItsBeginning) {
     EXPECT_NEAR((grayTop + grayBottom) / 2.0, middleOfLine(0), 2.5);
     const auto [redTop, redBottom] = rowsOf(Colour::red);
     EXPECT_NEAR((redTop + redBottom) / 2.0, middleOfLine(2), 2.5);
+}
+
+TEST_F(Key, wrapsALineAfterTheCommasBetweenItsValues) {
+    key->replaceText(
+        AttributedText("Person,Organ,Place\n\nverb\n\nfi,ffi,il,il,il,il,il,il,il,il", Colour::text));
+    EXPECT_EQ(linesOf(0), (QStringList{"Person,Organ,", "Place"}));
+    EXPECT_EQ(linesOf(2), QStringList{"verb"});
+    for (const QString& line : linesOf(4))
+        EXPECT_TRUE(line.endsWith(u',') || line.endsWith(u'l')) << line.toStdString();
+    EXPECT_EQ(linesOf(4).join(u""), key->document()->findBlockByNumber(4).text());
+    EXPECT_EQ(key->text(), "Person,Organ,Place\n\nverb\n\nfi,ffi,il,il,il,il,il,il,il,il");
+    key->selectAll();
+    key->copy();
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), key->text());
+    const auto [top, bottom] = rowsOf(Colour::gray);
+    EXPECT_NEAR((top + bottom) / 2.0, middleOfLine(0), 2.5);
+    const auto [redTop, redBottom] = rowsOf(Colour::red);
+    EXPECT_NEAR((redTop + redBottom) / 2.0, middleOfLine(2), 2.5);
+}
+
+TEST_F(Key, wrapsBetweenValuesInEveryWidth) {
+    const std::string values = "Person,Organ,Place,il,fi, Organ,Person, il,Place,Person,Person,Organ";
+    key->replaceText(AttributedText(values, Colour::text));
+    for (int width = 152; width < 240; ++width) {
+        frame.resize(width, 458);
+        const QStringList lines = linesOf(0);
+        EXPECT_EQ(lines.join(u"").toStdString(), values);
+        for (const QString& line : lines.first(lines.size() - 1))
+            EXPECT_TRUE(line.trimmed().endsWith(u',')) << width << ' ' << line.toStdString();
+    }
+}
+
+TEST_F(Key, breaksAValueOnlyWhereItIsTooWide) {
+    key->replaceText(AttributedText("Serbo Croat, Old Norse, and a very long value, x", Colour::text));
+    EXPECT_EQ(linesOf(0), (QStringList{"Serbo Croat, ", "Old Norse, ", "and a very ", "long value, x"}));
+}
+
+TEST_F(Key, wrapsAnewInAnotherWidth) {
+    key->replaceText(AttributedText("Person,Organ,Place", Colour::text));
+    ASSERT_EQ(linesOf(0).size(), 2);
+    frame.resize(400, 458);
+    EXPECT_EQ(linesOf(0), QStringList{"Person,Organ,Place"});
+    frame.resize(164, 458);
+    EXPECT_EQ(linesOf(0).size(), 2);
+}
+
+TEST_F(Key, scrollsToTheEndOfWrappedLines) {
+    frame.resize(164, 110);
+    key->replaceText(
+        AttributedText("Person,Organ,Place,Person,Organ,Place,Person,Organ,Place", Colour::text));
+    (void)shown();
+    const int lines = static_cast<int>(linesOf(0).size());
+    EXPECT_EQ(key->document()->lineCount(), lines);
+    EXPECT_GT(key->verticalScrollBar()->maximum(), 0);
 }
 
 TEST_F(Key, movesSwatchesWithTheText) {
