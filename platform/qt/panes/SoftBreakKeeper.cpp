@@ -29,13 +29,14 @@ bool joinsNext(const QTextBlock& block) {
 SoftBreakKeeper::SoftBreakKeeper(QTextDocument* document) : document_(document) {
     connect(document, &QTextDocument::contentsChange, this,
             [this](int from, int /*removed*/, int added) { noteChange(from, added); });
+    connect(this, &SoftBreakKeeper::edited, this, &SoftBreakKeeper::mend, Qt::QueuedConnection);
 }
 
 // What the program puts in, with no history of edits, is in order already. The document is not to be
 // edited while it tells of a change.
 void SoftBreakKeeper::noteChange(int from, int added) {
     if (!document_->isUndoRedoEnabled()) return forgetChanges();
-    if (first_ < 0) QMetaObject::invokeMethod(this, &SoftBreakKeeper::mend, Qt::QueuedConnection);
+    if (first_ < 0) emit edited();
     first_ = first_ < 0 ? from : std::min(first_, from);
     last_ = std::max(last_, from + added);
 }

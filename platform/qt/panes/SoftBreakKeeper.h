@@ -15,6 +15,10 @@ class SoftBreakKeeper : public QObject {
 public:
     explicit SoftBreakKeeper(QTextDocument* document);
 
+signals:
+    /// The first edit since the last mending.
+    void edited();
+
 private:
     void noteChange(int from, int added);
     void forgetChanges();
