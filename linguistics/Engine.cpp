@@ -1,73 +1,62 @@
 #include "linguistics/Engine.h"
 
-#include "linguistics/ParagraphSplitter.h"
-#include "linguistics/ParagraphTagger.h"
-#include "linguistics/PlainTagger.h"
-#include "linguistics/ScriptMarker.h"
-#include "linguistics/SentenceMarker.h"
-#include "linguistics/Tokeniser.h"
+#include "linguistics/language/LanguageIdentifier.h"
+#include "linguistics/text/AsciiText.h"
 
-#include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace lexiform::linguistics {
 
 namespace {
 
-// The one language that models exist for so far, and its script.
-constexpr std::string_view modelLanguage = "en";
-constexpr std::string_view modelScript = "Latn";
+// A window parses one text at a time; a second analyser serves a pass within a pass.
+constexpr std::size_t mostIdle = 2;
 
-/// Analyses one text, paragraph after paragraph.
-class Analysis {
-public:
-    Analysis(const ModelStore& models, std::string_view text) : models_(models), text_(text) {}
+// What language a text is in is told from so many bytes of it, and stated where so many of a hundred such
+// guesses are right.
+constexpr std::size_t beginning = std::size_t{64} * 1024;
+constexpr int enoughToTell = 80;
 
-    const Paragraph& paragraphAt(std::size_t start) {
-        std::vector<Token>& tokens = paragraph_.tokens;
-        tokens.clear();
-        paragraph_.range = linguistics::paragraphAt(text_, start);
-        tokeniser_.tokenise(substring(text_, paragraph_.range), start, tokens);
-        markSentences(text_, tokens);
-        markScripts(text_, tokens);
-        tagByCharacters(text_, tokens);
-        if (std::any_of(tokens.begin(), tokens.end(),
-                        [](const Token& token) { return token.script == modelScript; }))
-            tagByModel();
-        return paragraph_;
-    }
-
-private:
-    void tagByModel() {
-        if (!model_) {
-            const auto loaded = models_.model(modelLanguage);
-            // A language whose model is missing or damaged is one without a model: words stay X.
-            model_ = loaded.succeeded() ? loaded.value() : nullptr;
-            if (*model_) tagger_.emplace(**model_);
-        }
-        if (tagger_) tagger_->tag(text_, paragraph_.tokens);
-    }
-
-    const ModelStore& models_;
-    std::string_view text_;
-    Tokeniser tokeniser_;
-    std::optional<std::shared_ptr<const Model>> model_; ///< nothing until it is first needed
-    std::optional<ParagraphTagger> tagger_;
-    Paragraph paragraph_;
-};
+// Models are for languages, whatever the country or the script; Norwegian by itself is mostly Bokmål.
+std::string baseLanguage(std::string_view code) {
+    std::string base(code.substr(0, code.find_first_of("-_")));
+    for (char& letter : base)
+        letter = asciiLower(letter);
+    return base == "no" ? "nb" : base;
+}
 
 } // namespace
 
-Engine::Engine(std::shared_ptr<const ModelStore> models) : models_(std::move(models)) {}
+Engine::Engine(std::shared_ptr<const ModelStore> models, const EngineOptions& options)
+    : models_(std::move(models)), options_{baseLanguage(options.language)} {}
 
 void Engine::analyse(std::string_view text, const Visitor& visitor) const {
-    Analysis analysis(*models_, text);
-    for (std::size_t start = 0; start < text.size();) {
-        const Paragraph& paragraph = analysis.paragraphAt(start);
-        if (!visitor(paragraph)) return;
-        start = paragraph.range.end();
-    }
+    analyse(text, contextOf(text), visitor);
+}
+
+void Engine::analyse(std::string_view text, const TextContext& context, const Visitor& visitor) const {
+    Analyser analyser = takeAnalyser();
+    analyser.analyse(text, context, visitor);
+    giveBack(std::move(analyser));
+}
+
+Analyser Engine::takeAnalyser() const {
+    const std::lock_guard lock(mutex_);
+    if (idle_.empty()) return analyser();
+    Analyser analyser = std::move(idle_.back());
+    idle_.pop_back();
+    return analyser;
+}
+
+void Engine::giveBack(Analyser analyser) const {
+    const std::lock_guard lock(mutex_);
+    if (idle_.size() < mostIdle) idle_.push_back(std::move(analyser));
+}
+
+TextContext Engine::contextOf(std::string_view text) const {
+    if (!options_.language.empty()) return {.mainLanguage = options_.language};
+    const Guess guess = models_->identifier().guess(text.substr(0, beginning));
+    return {.mainLanguage = std::string(guess.confidence() >= enoughToTell ? guess.language : "")};
 }
 
 } // namespace lexiform::linguistics

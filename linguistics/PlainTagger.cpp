@@ -1,7 +1,7 @@
 #include "linguistics/PlainTagger.h"
 
-#include "linguistics/AsciiText.h"
-#include "linguistics/Characters.h"
+#include "linguistics/text/AsciiText.h"
+#include "linguistics/text/Characters.h"
 
 namespace lexiform::linguistics {
 

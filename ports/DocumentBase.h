@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lexiform {
@@ -28,6 +29,8 @@ public:
     virtual Outcome<Done, DocumentError> readFromData(std::string bytes, std::string type) = 0;
     /// Makes the document's window.
     virtual void makeWindowControllers() = 0;
+    /// The bytes to write into a file of the named type.
+    virtual Outcome<std::string, DocumentError> dataOfType(std::string_view type) = 0;
 
     /// The path of the file on disk; absent for a document that has none yet.
     std::optional<std::string> fileURL;

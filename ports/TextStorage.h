@@ -13,6 +13,8 @@ public:
     virtual void replace(const AttributedText& text) = 0;
     /// Adds `text` at the end, with nothing put between.
     virtual void append(const AttributedText& text) = 0;
+    /// All that the storage holds.
+    [[nodiscard]] virtual AttributedText attributedText() const = 0;
 };
 
 } // namespace lexiform

@@ -62,6 +62,7 @@ std::string_view nameTypeOrLexicalClass(const Token& token, std::string_view tex
     if (token.kind == TokenKind::whitespace) return NLTagOtherWhitespace;
     if (token.kind == TokenKind::lineBreak) return NLTagParagraphBreak;
     if (token.name != NameType::none) return nameTag(token.name);
+    if (token.isClassifier) return NLTagClassifier;
     if (token.pos == UniversalPos::PUNCT) return punctuationTag(token.range, text);
     return classTag(token.pos);
 }

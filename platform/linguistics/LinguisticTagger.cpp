@@ -13,6 +13,7 @@ namespace {
 
 using linguistics::Engine;
 using linguistics::Paragraph;
+using linguistics::TextContext;
 using linguistics::Token;
 
 using Tag = std::optional<std::string_view>;
@@ -53,9 +54,9 @@ public:
     }
 
     /// The document is one token, with the tag of its first paragraph that has one.
-    void document(const Engine& engine) const {
+    void document(const Engine& engine, const TextContext& context) const {
         std::optional<std::string> tag; // outlives the paragraph that it comes from
-        engine.analyse(text_, [&](const Paragraph& paragraph) {
+        engine.analyse(text_, context, [&](const Paragraph& paragraph) {
             if (const Tag found = wholeOf(paragraph, text_, tagOf_).tag) tag = *found;
             return !tag;
         });
@@ -85,8 +86,9 @@ bool areKnown(std::span<const TagScheme> schemes) {
 
 } // namespace
 
-LinguisticTagger::LinguisticTagger(std::shared_ptr<const Engine> engine, std::span<const TagScheme> schemes)
-    : engine_(std::move(engine)), keepsAnalysis_(schemes.size() > 1) {}
+LinguisticTagger::LinguisticTagger(std::shared_ptr<const Engine> engine, std::span<const TagScheme> schemes,
+                                   std::optional<TextContext> context)
+    : engine_(std::move(engine)), context_(std::move(context)), keepsAnalysis_(schemes.size() > 1) {}
 
 void LinguisticTagger::setString(std::string text) {
     text_ = std::move(text);
@@ -96,24 +98,26 @@ void LinguisticTagger::setString(std::string text) {
 void LinguisticTagger::enumerateTags(TextRange range, NLTokenUnit unit, TagScheme scheme,
                                      NLTaggerOptions options, const Visitor& visitor) {
     const std::string_view text = substring(text_, range);
+    const TextContext context = context_ ? *context_ : engine_->contextOf(text);
     const Visit visit(text, range.start, tagsUnder(scheme, unit), visitor);
     const bool everyWord = unit == NLTokenUnit::word && options.empty();
     if (everyWord && keepsAnalysis_ && range.length == text_.size()) {
-        if (!words_) words_.emplace(text_, *engine_);
+        if (!words_) words_.emplace(text_, *engine_, context);
         return words_->enumerate(scheme, visitor);
     }
-    if (unit == NLTokenUnit::document) return visit.document(*engine_);
-    engine_->analyse(text, [&](const Paragraph& paragraph) {
+    if (unit == NLTokenUnit::document) return visit.document(*engine_, context);
+    engine_->analyse(text, context, [&](const Paragraph& paragraph) {
         if (everyWord) return visit.everyToken(paragraph);
         if (unit == NLTokenUnit::word) return visit.words(paragraph, options);
         return unit == NLTokenUnit::sentence ? visit.sentences(paragraph) : visit.whole(paragraph);
     });
 }
 
-TaggerFactory linguisticTaggers(std::shared_ptr<const Engine> engine) {
-    return [engine = std::move(engine)](std::span<const TagScheme> schemes) -> std::unique_ptr<Tagger> {
+TaggerFactory linguisticTaggers(std::shared_ptr<const Engine> engine, std::optional<TextContext> context) {
+    return [engine = std::move(engine),
+            context = std::move(context)](std::span<const TagScheme> schemes) -> std::unique_ptr<Tagger> {
         if (!areKnown(schemes)) return nullptr;
-        return std::make_unique<LinguisticTagger>(engine, schemes);
+        return std::make_unique<LinguisticTagger>(engine, schemes, context);
     };
 }
 

@@ -18,7 +18,9 @@ namespace lexiform {
 /// A tagger made for several schemes analyses its text once for all of them.
 class LinguisticTagger : public Tagger {
 public:
-    LinguisticTagger(std::shared_ptr<const linguistics::Engine> engine, std::span<const TagScheme> schemes);
+    /// A tagger of texts that stand by themselves, or, given a context, of parts of one.
+    LinguisticTagger(std::shared_ptr<const linguistics::Engine> engine, std::span<const TagScheme> schemes,
+                     std::optional<linguistics::TextContext> context = std::nullopt);
 
     void setString(std::string text) override;
     void enumerateTags(TextRange range, NLTokenUnit unit, TagScheme scheme, NLTaggerOptions options,
@@ -26,13 +28,15 @@ public:
 
 private:
     std::shared_ptr<const linguistics::Engine> engine_;
+    std::optional<linguistics::TextContext> context_;
     bool keepsAnalysis_;
     std::string text_;
     std::optional<TaggedWords> words_;
 };
 
 /// Makes linguistic taggers that share `engine`; null for a list with a scheme that is not one of
-/// the four.
-[[nodiscard]] TaggerFactory linguisticTaggers(std::shared_ptr<const linguistics::Engine> engine);
+/// the four. Given a context, their texts are parts of one.
+[[nodiscard]] TaggerFactory linguisticTaggers(std::shared_ptr<const linguistics::Engine> engine,
+                                              std::optional<linguistics::TextContext> context = std::nullopt);
 
 } // namespace lexiform

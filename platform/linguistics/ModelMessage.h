@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linguistics/ModelFault.h"
+#include "linguistics/file/ModelFault.h"
 
 #include <string>
 

@@ -13,8 +13,9 @@ constexpr StringPool::Number none = std::numeric_limits<StringPool::Number>::max
 
 } // namespace
 
-TaggedWords::TaggedWords(std::string_view text, const linguistics::Engine& engine) {
-    engine.analyse(text, [&](const linguistics::Paragraph& paragraph) {
+TaggedWords::TaggedWords(std::string_view text, const linguistics::Engine& engine,
+                         const linguistics::TextContext& context) {
+    engine.analyse(text, context, [&](const linguistics::Paragraph& paragraph) {
         add(paragraph, text);
         return true;
     });

@@ -15,7 +15,8 @@ namespace lexiform {
 /// and each distinct tag once.
 class TaggedWords {
 public:
-    TaggedWords(std::string_view text, const linguistics::Engine& engine);
+    TaggedWords(std::string_view text, const linguistics::Engine& engine,
+                const linguistics::TextContext& context);
 
     /// Calls `visitor` for every word with its tag under one of the four schemes, until it has enough.
     void enumerate(TagScheme scheme, const Tagger::Visitor& visitor) const;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/tagger/Tagger.h"
-#include "linguistics/Analysis.h"
+#include "linguistics/text/Analysis.h"
 
 #include <optional>
 #include <string_view>
