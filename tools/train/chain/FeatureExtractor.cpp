@@ -1,0 +1,44 @@
+#include "tools/train/chain/FeatureExtractor.h"
+
+namespace lexiform::train {
+
+using namespace linguistics;
+
+FeatureExtractor::FeatureExtractor(const Lexicon& lexicon) : lexicon_(lexicon), boundary_(boundaryTraits()) {}
+
+const WordTraits& FeatureExtractor::traitsOf(const std::string& word) {
+    const auto found = known_.find(word);
+    if (found != known_.end()) return found->second;
+    WordTraits traits = linguistics::traitsOf(word);
+    const auto entry = lexicon_.find(normalForm(word));
+    if (entry != lexicon_.end()) traits.entry = entry->second;
+    return known_.emplace(word, traits).first->second;
+}
+
+void FeatureExtractor::extract(const GoldSentence& sentence, const std::vector<UniversalPos>* pos,
+                               const Take& take) {
+    const std::size_t count = sentence.tokens.size();
+    std::vector<const WordTraits*> words(count + neighbourCount, &boundary_);
+    std::vector<Casing> casings;
+    for (std::size_t i = 0; i < count; ++i) {
+        words[i + contextReach] = &traitsOf(sentence.tokens[i].form);
+        casings.push_back(words[i + contextReach]->casing);
+    }
+    const SentenceTraits traits = sentenceTraitsOf(casings);
+    const auto posAt = [&](std::size_t i) { return i < count ? (*pos)[i] : UniversalPos::PUNCT; };
+    for (std::size_t i = 0; i < count; ++i) {
+        Context context;
+        for (std::size_t place = 0; place < context.size(); ++place) {
+            context[place] = words[i + place];
+            forEachWordFeature(*words[i + place], static_cast<int>(place) - contextReach,
+                               [&](std::uint64_t feature) { take(i, feature, false); });
+        }
+        forEachContextFeature(context, i == 0, traits,
+                              [&](std::uint64_t feature) { take(i, feature, true); });
+        if (pos == nullptr) continue;
+        forEachNameFeature(context, {posAt(i - 1), posAt(i), posAt(i + 1)},
+                           [&](std::uint64_t feature) { take(i, feature, true); });
+    }
+}
+
+} // namespace lexiform::train

@@ -1,0 +1,36 @@
+#include "tools/train/sources/languages/Recipes.h"
+
+namespace lexiform::train::recipes {
+
+namespace {
+
+using enum linguistics::UniversalPos;
+
+Rules rules() {
+    return {
+        {form("ettei etten ettet ettemme ettette etteivät") && tagged({VERB}), toTag(SCONJ)},
+        {lemma("ei") && tagged({VERB}), toTag(AUX)},
+        {form("eikä enkä emmekä etkä ettekä eivätkä"), toTag(AUX)},
+        {lemma("olla") && tagged({VERB}) && !formEndsIn("va van vat via vien"), toTag(AUX)},
+        {lemmaHolds("#"), toLemmaWithout("#")},
+    };
+}
+
+} // namespace
+
+Recipe finnish() {
+    Recipe recipe;
+    recipe.training = {
+        {.file = "fi_tdt-train.sigmorphon2019.conllu",
+         .tagWeight = 1,
+         .lemmaWeight = 1,
+         .hasSpacing = true,
+         .rules = rules()},
+        {.file = "fi_tdt-train.conll2018.conllu", .tagWeight = 1, .lemmaWeight = 1, .rules = rules()},
+    };
+    recipe.development = {"fi_tdt-dev.conllu"};
+    recipe.openTexts = {"text/modern.txt"};
+    return recipe;
+}
+
+} // namespace lexiform::train::recipes

@@ -1,0 +1,130 @@
+#include "tools/train/sources/languages/Recipes.h"
+
+#include "linguistics/text/Utf8.h"
+
+namespace lexiform::train::recipes {
+
+namespace {
+
+using enum linguistics::UniversalPos;
+
+using linguistics::codePointAt;
+
+bool isLatin(char32_t value) {
+    return (value >= 'A' && value <= 'Z') || (value >= 'a' && value <= 'z') ||
+           (value >= 0xC0 && value <= 0x24F);
+}
+
+// Two or more letters, all of them Latin.
+bool isLatinWord(std::string_view word) {
+    std::size_t letters = 0;
+    for (std::size_t at = 0; at < word.size();) {
+        const auto point = codePointAt(word, at);
+        at += point.length;
+        if (isLatin(point.value))
+            ++letters;
+        else if (point.value != '.' && point.value != '\'' && point.value != '-')
+            return false;
+    }
+    return letters > 1;
+}
+
+Condition latin() {
+    return Condition([](Place place) { return isLatinWord(place.token().form); });
+}
+
+Condition digits() {
+    return Condition(
+        [](Place place) { return place.lowered().find_first_not_of("0123456789") == std::string::npos; });
+}
+
+Condition roman() {
+    return Condition(
+        [](Place place) { return place.token().form.find_first_not_of("IVXLC") == std::string::npos; });
+}
+
+Rules foreign() {
+    return {
+        {latin() && !roman(), toTag(X)},
+        {roman(), toTag(ADJ)},
+        {form("№ + = ° % $ &"), toTag(SYM)},
+    };
+}
+
+// Full verbs that reprints take for copulas.
+Rules auxiliaries() {
+    return {{tagged({AUX}) && lemma("являться стать становиться назначить назначать оказаться остаться"),
+             toTag(VERB)},
+            {tagged({AUX}) && form("это"), toTag(PART)}};
+}
+
+Rules numerals() {
+    const Condition month = form("января февраля марта апреля мая июня июля августа сентября октября ноября "
+                                 "декабря года году год годов годах г.");
+    return {
+        {digits() && tagged({ADV}) && after(month), toTag(ADJ)},
+        {digits() && tagged({ADV}), toTag(NUM)},
+    };
+}
+
+Rules words() {
+    return {
+        {form("также") && before(form("а но")), toTag(CCONJ)},
+        {form("также") && !before(form("а но")), toTag(PART)},
+        {form("однако") && !(before(tagged({PUNCT})) && after(form(","))), toTag(CCONJ)},
+        {form("де") && tagged({PROPN, ADV}), toTag(PART)},
+        {form("я") && tagged({ADJ}), toTag(PRON)},
+        {form("чем") && tagged({ADP}), toTag(SCONJ)},
+    };
+}
+
+Rules properNouns() {
+    return {{tagged({PROPN}), toLemmaCasedLikeForm()}};
+}
+
+Rules gsd() {
+    return joined({foreign(), auxiliaries(), numerals(), words(), properNouns()});
+}
+
+Rules taiga() {
+    return {
+        {latin() && !roman(), toTag(X)},
+        {roman(), toTag(ADJ)},
+        {formBeginsWith("@") && tagged({X}), toTag(PROPN)},
+        {lemma("другой сам самый"), toTag(DET)},
+        {tagged({PROPN}), toLemmaCasedLikeForm()},
+    };
+}
+
+// Common nouns in lower case that stand for an organization are no names, unless capitals join them.
+Rules commonNounsOutsideNames() {
+    const Condition capitalInName = capitalised() && !outsideNames();
+    return {{!outsideNames() && !capitalised() && !followedWithin(8, capitalInName, outsideNames()) &&
+                 !precededWithin(8, capitalInName, outsideNames()),
+             toNoName()}};
+}
+
+} // namespace
+
+Recipe russian() {
+    Recipe recipe;
+    recipe.training = {
+        {.file = "ru_taiga-train.salvaged.conllu",
+         .tagWeight = 1,
+         .lemmaWeight = 1,
+         .hasSpacing = true,
+         .rules = taiga()},
+        {.file = "ru_gsd-train.sigmorphon2019.conllu",
+         .tagWeight = 1,
+         .lemmaWeight = 1,
+         .hasSpacing = true,
+         .rules = gsd()},
+        {.file = "ru_gsd-train.conll2018.conllu", .tagWeight = 1, .lemmaWeight = 1, .rules = gsd()},
+        {.file = "names/factrueval-train.tsv", .nameWeight = 1, .rules = commonNounsOutsideNames()},
+    };
+    recipe.development = {"ru_gsd-dev.conllu", "ru_poetry-dev.conllu", "ru_taiga-dev.conllu"};
+    recipe.openTexts = {"text/modern.txt", "text/novels.txt"};
+    return recipe;
+}
+
+} // namespace lexiform::train::recipes

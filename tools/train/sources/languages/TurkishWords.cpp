@@ -1,0 +1,242 @@
+#include "tools/train/sources/languages/TurkishWords.h"
+
+#include "base/Unicode.h"
+#include "tools/train/sources/rules/TurkishSuffixes.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+namespace lexiform::train {
+
+namespace {
+
+using namespace std::string_view_literals;
+using enum linguistics::UniversalPos;
+using linguistics::UniversalPos;
+
+std::string turkishLower(std::string_view text) {
+    std::string lowered;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::string_view rest = text.substr(at);
+        if (rest.starts_with("İ")) {
+            lowered += 'i';
+            at += "İ"sv.size();
+        } else if (rest.front() == 'I') {
+            lowered += "ı";
+            ++at;
+        } else {
+            lowered += rest.front();
+            ++at;
+        }
+    }
+    return lowerCased(lowered);
+}
+
+// Endings by their vowels: a stands for a and e, i for the four close ones; d for d and t.
+std::vector<std::string> variantsOf(std::string_view pattern) {
+    std::vector<std::string> variants = {""};
+    for (const char letter : pattern) {
+        std::vector<std::string> longer;
+        const auto append = [&](std::initializer_list<std::string_view> choices) {
+            for (const std::string& variant : variants)
+                for (const std::string_view choice : choices)
+                    longer.push_back(variant + std::string(choice));
+        };
+        if (letter == 'a')
+            append({"a", "e"});
+        else if (letter == 'i')
+            append({"ı", "i", "u", "ü"});
+        else if (letter == 'd')
+            append({"d", "t"});
+        else if (letter == 'g')
+            append({"ğ"});
+        else if (letter == 's')
+            append({"ş"});
+        else if (letter == 'S')
+            append({"s"});
+        else
+            append({std::string_view(&letter, 1)});
+        variants = std::move(longer);
+    }
+    return variants;
+}
+
+std::vector<std::string> allVariantsOf(std::string_view patterns) {
+    std::vector<std::string> all;
+    for (std::size_t start = 0; start < patterns.size();) {
+        const std::size_t end = std::min(patterns.find(' ', start), patterns.size());
+        const auto variants = variantsOf(patterns.substr(start, end - start));
+        all.insert(all.end(), variants.begin(), variants.end());
+        start = end + 1;
+    }
+    std::stable_sort(all.begin(), all.end(),
+                     [](const std::string& a, const std::string& b) { return a.size() > b.size(); });
+    return all;
+}
+
+// The longest of `endings` that `form` ends in, leaving two bytes or more.
+std::size_t endingOf(const std::string& form, const std::vector<std::string>& endings) {
+    for (const std::string& ending : endings)
+        if (form.size() > ending.size() + 1 && form.ends_with(ending)) return ending.size();
+    return 0;
+}
+
+const std::vector<std::string>& pastCopulas() {
+    static const auto endings = allVariantsOf(
+        "di dim din dik dilar diniz mis misim missin misiz mislar Sa Sam San Sak Salar Saniz dir dirlar");
+    return endings;
+}
+const std::vector<std::string>& nounCopulas() {
+    static const auto endings = allVariantsOf("di dim din dik dilar diniz ydi ydim ydin ydik ydilar ydiniz "
+                                              "ymis ymisim ySa ySam mis dir dirlar Sa Saniz ykan");
+    return endings;
+}
+/// What a corpus tells of lemmas.
+class Lemmas {
+public:
+    explicit Lemmas(const Corpus& corpus) {
+        for (const GoldSentence& sentence : corpus)
+            for (const GoldToken& token : sentence.tokens)
+                if (token.lemma && token.pos) count(token);
+    }
+
+    bool isVerbLemma(const std::string& lemma) const { return verbs_.count(lemma) != 0; }
+    UniversalPos nominalOf(const std::string& lemma) const {
+        const auto found = nominals_.find(lemma);
+        if (found == nominals_.end()) return NOUN;
+        UniversalPos best = NOUN;
+        std::size_t most = 0;
+        for (const auto& [pos, count] : found->second)
+            if (count > most) {
+                best = pos;
+                most = count;
+            }
+        return best;
+    }
+
+private:
+    void count(const GoldToken& token) {
+        if (*token.pos == VERB && token.features.find("Polarity=") != std::string::npos)
+            verbs_.insert(*token.lemma);
+        else if (turkishLower(token.form) == *token.lemma && *token.pos != VERB)
+            ++nominals_[*token.lemma][*token.pos];
+    }
+
+    std::set<std::string> verbs_;
+    std::map<std::string, std::map<UniversalPos, std::size_t>> nominals_;
+};
+
+// Whether what the form has after its verbal lemma makes a participle, a verbal noun or a converb of it.
+// The last letter of the lemma may have changed (git, gidip).
+bool hasVerbalEnding(const std::string& form, const std::string& lemma) {
+    if (form == lemma) return false;
+    std::size_t common = 0;
+    while (common < lemma.size() && common < form.size() && lemma[common] == form[common])
+        ++common;
+    if (common + 2 < lemma.size()) return false;
+    const std::string suffixes = harmonised(std::string_view(form).substr(lemma.size()));
+    return isParticiple(suffixes) || isConverb(suffixes);
+}
+
+/// Splits and retags the words of one corpus.
+class Splitter {
+public:
+    explicit Splitter(const Lemmas& lemmas) : lemmas_(lemmas) {}
+
+    void split(GoldSentence& sentence) {
+        tokens_.clear();
+        for (GoldToken& token : sentence.tokens)
+            add(std::move(token));
+        sentence.tokens = std::move(tokens_);
+    }
+
+private:
+    void add(GoldToken token) {
+        const std::string form = turkishLower(token.form);
+        if (!token.pos || !token.lemma) return keep(std::move(token));
+        const bool finite = *token.pos == VERB && token.features.find("VerbForm=Fin") != std::string::npos;
+        const bool verbal = token.features.find("Polarity=") != std::string::npos;
+        if (finite && !verbal) return addPredicateNoun(std::move(token), form);
+        if (finite) return addFiniteVerb(std::move(token), form);
+        const bool nominal = *token.pos == NOUN || *token.pos == ADJ || *token.pos == ADV;
+        if (nominal && lemmas_.isVerbLemma(*token.lemma) && hasVerbalEnding(form, *token.lemma))
+            token.pos = VERB;
+        if ((nominal || *token.pos == PROPN) && !token.lemma->ends_with("ki"))
+            if (const std::size_t size = endingOf(form, {"kiler", "ki", "kü"}); size != 0)
+                return addSplit(std::move(token), size, PART, "ki", std::nullopt);
+        keep(std::move(token));
+    }
+
+    void addPredicateNoun(GoldToken token, const std::string& form) {
+        const UniversalPos pos = lemmas_.nominalOf(*token.lemma);
+        const std::size_t size = endingOf(form, nounCopulas());
+        if (size != 0 && form.size() - size + 1 >= token.lemma->size())
+            return addSplit(std::move(token), size, AUX, "i", pos);
+        token.pos = pos;
+        keep(std::move(token));
+    }
+
+    void addFiniteVerb(GoldToken token, const std::string& form) {
+        const std::size_t size = endingOf(form, pastCopulas());
+        const std::string stem = form.substr(0, form.size() - size);
+        if (size != 0 && stem.size() > token.lemma->size() && isTensed(stem))
+            return addSplit(std::move(token), size, AUX, "y", std::nullopt);
+        keep(std::move(token));
+    }
+
+    static bool isTensed(const std::string& stem) {
+        static const auto tenses = allVariantsOf("mis yor acak yorlar mislar acaklar arlar irlar mali makda");
+        return endingOf(stem, tenses) != 0;
+    }
+
+    void addSplit(GoldToken token, std::size_t size, UniversalPos pos, std::string_view lemma,
+                  std::optional<UniversalPos> first) {
+        GoldToken second = token;
+        second.form = token.form.substr(token.form.size() - size);
+        second.pos = pos;
+        second.lemma = std::string(lemma);
+        token.form.resize(token.form.size() - size);
+        token.spaceAfter = false;
+        if (first) token.pos = *first;
+        if (pos == PART && *token.pos == ADJ) token.pos = NOUN;
+        tokens_.push_back(std::move(token));
+        tokens_.push_back(std::move(second));
+    }
+
+    void keep(GoldToken token) { tokens_.push_back(std::move(token)); }
+
+    const Lemmas& lemmas_;
+    std::vector<GoldToken> tokens_;
+};
+
+bool isAllCapitals(const std::string& form) {
+    return turkishLower(form) != form;
+}
+
+} // namespace
+
+Preparation turkishLowerCased() {
+    return [](Corpus& corpus) {
+        for (GoldSentence& sentence : corpus)
+            for (GoldToken& token : sentence.tokens) {
+                if (isAllCapitals(token.form)) token.form = turkishLower(token.form);
+                if (token.lemma) token.lemma = turkishLower(*token.lemma);
+            }
+    };
+}
+
+Preparation turkishSplit() {
+    return [](Corpus& corpus) {
+        const Lemmas lemmas(corpus);
+        Splitter splitter(lemmas);
+        for (GoldSentence& sentence : corpus)
+            splitter.split(sentence);
+    };
+}
+
+} // namespace lexiform::train
