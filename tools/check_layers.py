@@ -11,7 +11,7 @@ import sys
 # folder: (folders that it may use, library headers that it may use)
 LAYERS = {
     "base": ((), ("unicode/",)),
-    "linguistics": (("base",), ("unicode/",)),
+    "linguistics": (("base",), ("unicode/", "cld2/")),
     "analysis/tagger": (("base",), ()),
     "ports": (("base",), ()),
     "analysis": (("analysis/tagger", "ports", "base"), ("unicode/",)),
@@ -23,7 +23,7 @@ LAYERS = {
     ),
     "tools": (
         ("document", "analysis", "analysis/tagger", "ports", "platform/linguistics", "linguistics", "base"),
-        ("CLI/", "unicode/"),
+        ("CLI/", "nlohmann/", "unicode/"),
     ),
 }
 # Within a folder that holds folders of its own: which of them each may use.
@@ -31,8 +31,60 @@ INSIDE = {
     "platform/qt/theme": (),
     "platform/qt/panes": ("platform/qt/theme",),
     "platform/qt/adapters": ("platform/qt/panes", "platform/qt/theme"),
+    "linguistics/text": (),
+    "linguistics/file": ("linguistics/text",),
+    "linguistics/segmentation": ("linguistics/text", "linguistics/file"),
+    "linguistics/language": ("linguistics/text", "linguistics/file"),
+    "linguistics/tagging": ("linguistics/text", "linguistics/file"),
+    "linguistics/network": ("linguistics/text", "linguistics/file", "linguistics/tagging"),
+    "linguistics/lemmas": ("linguistics/text", "linguistics/file"),
+    "linguistics/model": (
+        "linguistics/text", "linguistics/file", "linguistics/segmentation", "linguistics/language",
+        "linguistics/tagging", "linguistics/network", "linguistics/lemmas",
+    ),
+    "document/format": (),
+    "document/text": ("document/format",),
+    "document/markup": (),
+    "document/xml": ("document/format", "document/text", "document/markup"),
+    "document/package": ("document/format",),
+    "document/rtf": ("document/format", "document/text"),
+    "document/html": ("document/format", "document/text", "document/markup"),
+    "document/odf": ("document/format", "document/text", "document/xml", "document/package"),
+    "document/docx": ("document/format", "document/text", "document/xml", "document/package"),
+    "document/epub": ("document/format", "document/xml", "document/package", "document/html"),
+    "document/detection": (
+        "document/format", "document/package", "document/rtf", "document/html", "document/odf",
+        "document/docx", "document/epub",
+    ),
     "tools/lexiform-cli": (),
+    "tools/train/file": (),
+    "tools/train/corpora": (),
+    "tools/train/sources": ("tools/train/corpora",),
+    "tools/train/lexicon": ("tools/train/corpora", "tools/train/sources"),
+    "tools/train/chain": (
+        "tools/train/corpora", "tools/train/lexicon", "tools/train/sources", "tools/train/file",
+    ),
+    "tools/train/lemmas": ("tools/train/corpora", "tools/train/sources", "tools/train/file"),
+    "tools/train/language": ("tools/train/corpora", "tools/train/file"),
+    "tools/train/segmentation": ("tools/train/corpora", "tools/train/sources", "tools/train/file"),
+    "tools/train/network": (
+        "tools/train/corpora", "tools/train/lexicon", "tools/train/sources", "tools/train/file",
+    ),
+    "tools/train/evaluation": ("tools/train/corpora",),
+    "tools/train/commands": (
+        "tools/train/corpora", "tools/train/lexicon", "tools/train/sources", "tools/train/file",
+        "tools/train/chain", "tools/train/network", "tools/train/segmentation", "tools/train/lemmas", "tools/train/language",
+        "tools/train/evaluation",
+    ),
     "tools/train": (),
+}
+# Within such a folder: the library headers that it alone may use.
+LIBRARIES_INSIDE = {
+    "document/text": ("unicode/",),
+    "document/rtf": ("unicode/utf16.h",),
+    "document/html": ("libxml/",),
+    "document/xml": ("libxml/",),
+    "document/package": ("zip.h",),
 }
 STANDARD = re.compile(r"^[a-z_0-9]+(\.h)?$|^sys/|^netinet/")
 
@@ -41,6 +93,14 @@ def layer_of(path, table):
     """The longest folder of the table that holds the path, or None."""
     held = [folder for folder in table if path.startswith(folder + "/")]
     return max(held, key=len, default=None)
+
+
+def libraries_of(path, libraries):
+    return tuple(libraries) + LIBRARIES_INSIDE.get(layer_of(path, INSIDE), ())
+
+
+def is_standard(header):
+    return bool(STANDARD.match(header)) and header != "zip.h"
 
 
 def faults_of(path):
@@ -61,7 +121,7 @@ def faults_of(path):
                 if allowed and target == layer and inside is not None:
                     allowed = header.startswith(inside + "/") or target_inside in INSIDE[inside]
             else:
-                allowed = bool(STANDARD.match(header)) or header.startswith(tuple(libraries) or ("\0",))
+                allowed = header.startswith(libraries_of(path, libraries)) or is_standard(header)
             if not allowed:
                 yield f"{path}:{number}: {inside_name(path, layer)} may not include {header}"
 

@@ -63,16 +63,17 @@ void appendHarmless(std::string_view token, std::string& out) {
 
 } // namespace
 
-void AnsiWriter::paragraph(const linguistics::Paragraph& paragraph, std::string_view text, std::string& out) {
+void AnsiWriter::paragraph(const linguistics::Paragraph& paragraph, const TextBlock& block, Piece& out) {
+    const std::string_view text = block.text;
     for (const linguistics::Token& token : paragraph.tokens) {
         // White space shows no colour, so that it needs no switch.
-        if (!isBlank(token)) switchTo(classRow(nameTypeOrLexicalClass(token, text)).colour, out);
-        appendHarmless(substring(text, token.range), out);
+        if (!isBlank(token)) switchTo(classRow(nameTypeOrLexicalClass(token, text)).colour, out.text);
+        appendHarmless(substring(text, token.range), out.text);
     }
 }
 
-void AnsiWriter::endText(std::string& out) {
-    if (current_) out += reset;
+void AnsiWriter::endBlock(Piece& out) {
+    if (current_) out.text += reset;
     current_.reset();
 }
 

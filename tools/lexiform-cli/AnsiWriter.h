@@ -12,13 +12,20 @@ namespace lexiform::cli {
 /// the direction of writing as U+FFFD, and a carriage return alone becomes a line feed.
 class AnsiWriter : public TokenWriter {
 public:
-    void paragraph(const linguistics::Paragraph& paragraph, std::string_view text, std::string& out) override;
-    void endText(std::string& out) override;
+    void paragraph(const linguistics::Paragraph& paragraph, const TextBlock& block, Piece& out) override;
+    void endBlock(Piece& out) override;
 
 private:
     void switchTo(Colour colour, std::string& out);
 
     std::optional<Colour> current_;
+};
+
+class AnsiFormat : public TokenFormat {
+public:
+    [[nodiscard]] std::unique_ptr<TokenWriter> writer() const override {
+        return std::make_unique<AnsiWriter>();
+    }
 };
 
 /// The nine classes on one line, each in its colour.

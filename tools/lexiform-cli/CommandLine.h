@@ -1,7 +1,9 @@
 #pragma once
 
 #include "tools/lexiform-cli/ConcordanceCommand.h"
+#include "tools/lexiform-cli/LanguageCommand.h"
 #include "tools/lexiform-cli/TagCommand.h"
+#include "tools/lexiform-cli/TextCommand.h"
 
 #include "base/Outcome.h"
 
@@ -20,8 +22,15 @@ struct Exit {
 inline constexpr int failed = 1;
 inline constexpr int misused = 2;
 
+/// What `lexiform-cli models` was asked for: nothing more.
+struct ModelsRequest {};
+
 /// One of the commands with what it was asked for.
-using Request = std::variant<TagRequest, ConcordanceRequest>;
+struct Request {
+    std::variant<TagRequest, ConcordanceRequest, LanguageRequest, ModelsRequest, TextRequest> command;
+    /// The language that a person says the texts are in, BCP 47; empty where the texts are to tell.
+    std::string language;
+};
 
 /// What a command line asks for. Help and the version, as well as mistakes, are an Exit.
 [[nodiscard]] Outcome<Request, Exit> parseCommandLine(int argc, const char* const* argv,

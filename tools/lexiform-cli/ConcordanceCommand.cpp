@@ -1,15 +1,18 @@
 #include "tools/lexiform-cli/ConcordanceCommand.h"
 
 #include "base/checkedSum.h"
+#include "platform/linguistics/LinguisticTagger.h"
+#include "tools/lexiform-cli/BlockReader.h"
 #include "tools/lexiform-cli/HeadlessWindow.h"
-#include "tools/lexiform-cli/InputText.h"
 #include "tools/lexiform-cli/Sink.h"
 
-#include <string_view>
+#include <utility>
 
 namespace lexiform::cli {
 
 namespace {
+
+using linguistics::Engine;
 
 void addCounts(const ViewController& from, ViewController& to) {
     for (const auto dictionary : ViewController::wordDictionaries())
@@ -22,18 +25,21 @@ void addCounts(const ViewController& from, ViewController& to) {
 /// Counts the words of files, and lists them.
 class Report {
 public:
-    Report(const TaggerFactory& makeTagger, bool lemmas)
-        : file_(makeTagger), all_(makeTagger), lemmas_(lemmas) {}
+    Report(std::shared_ptr<const Engine> engine, bool lemmas)
+        : engine_(std::move(engine)), all_(linguisticTaggers(engine_)), lemmas_(lemmas) {}
 
-    void count(std::string_view text) {
-        file_.setText(text);
-        if (lemmas_) {
-            file_.controller().multiParse();
-            file_.controller().recountTaggedText();
-        } else {
-            file_.controller().parseText();
+    /// Counts the words of a text; of one that cannot be read to its end none count.
+    Outcome<Done, InputFault> count(BlockReader reader) {
+        HeadlessWindow file(linguisticTaggers(engine_));
+        auto block = reader.next();
+        if (block.succeeded() && block.value()) {
+            const TaggerFactory taggers = linguisticTaggers(engine_, engine_->contextOf(block.value()->text));
+            for (; block.succeeded() && block.value(); block = reader.next())
+                countBlock(block.value()->text, taggers, file.controller());
         }
-        addCounts(file_.controller(), all_.controller());
+        if (!block.succeeded()) return block.fault();
+        addCounts(file.controller(), all_.controller());
+        return Done{};
     }
 
     /// The report on what was counted since the last one.
@@ -45,27 +51,44 @@ public:
     }
 
 private:
-    HeadlessWindow file_;
+    void countBlock(const std::string& text, const TaggerFactory& taggers, ViewController& counts) const {
+        HeadlessWindow block(taggers);
+        block.setText(text);
+        if (lemmas_) {
+            block.controller().multiParse();
+            block.controller().recountTaggedText();
+        } else {
+            block.controller().parseText();
+        }
+        addCounts(block.controller(), counts);
+    }
+
+    std::shared_ptr<const Engine> engine_;
     HeadlessWindow all_;
     bool lemmas_;
 };
 
+Outcome<Done, InputFault> countFile(const std::string& name, const std::string& type, Report& words) {
+    auto reader = BlockReader::open(name, type);
+    if (!reader.succeeded()) return reader.fault();
+    return words.count(std::move(reader).value());
+}
+
 } // namespace
 
-int concordance(const ConcordanceRequest& request, const TaggerFactory& makeTagger, std::FILE* out,
-                std::FILE* errors) {
-    Report words(makeTagger, request.lemmas);
+int concordance(const ConcordanceRequest& request, const std::shared_ptr<const Engine>& engine,
+                std::FILE* out, std::FILE* errors) {
+    Report words(engine, request.lemmas);
     Sink sink(out);
     int status = 0;
     bool counted = false;
     for (const std::string& file : inputNames(request.files)) {
-        const auto text = readText(file);
-        if (!text.succeeded()) {
-            report(errors, text.fault().message);
+        const auto outcome = countFile(file, request.type, words);
+        if (!outcome.succeeded()) {
+            report(errors, outcome.fault().message);
             status = 1;
             continue;
         }
-        words.count(text.value());
         counted = true;
         if (request.each) sink.pending += file + "\n" + words.take() + "\n";
     }

@@ -70,11 +70,12 @@ void appendSentenceText(const std::vector<Token>& tokens, std::size_t first, std
 
 } // namespace
 
-void ConlluWriter::startText(std::string_view name, std::string& out) {
-    if (!name.empty()) out.append("# newdoc id = ").append(name).append("\n");
+std::string ConlluFormat::startText(std::string_view name, bool /*first*/) const {
+    return name.empty() ? "" : "# newdoc id = " + std::string(name) + "\n";
 }
 
-void ConlluWriter::paragraph(const Paragraph& paragraph, std::string_view text, std::string& out) {
+void ConlluWriter::paragraph(const Paragraph& paragraph, const TextBlock& block, Piece& out) {
+    const std::string_view text = block.text;
     paragraphPending_ = true;
     for (std::size_t i = 0; i < paragraph.tokens.size(); ++i) {
         const Token& token = paragraph.tokens[i];
@@ -82,28 +83,31 @@ void ConlluWriter::paragraph(const Paragraph& paragraph, std::string_view text, 
             (row_.empty() ? spaceBefore_ : spaceAfter_) += substring(text, token.range);
             continue;
         }
-        finishRow(out);
+        finishRow(out.text);
         if (token.startsSentence || paragraphPending_) startSentence(paragraph, i, text, out);
         addRow(token, text);
     }
 }
 
-void ConlluWriter::endText(std::string& out) {
-    finishRow(out);
-    if (wordInSentence_ > 0) out += '\n';
+void ConlluWriter::endBlock(Piece& out) {
+    finishRow(out.text);
+    if (wordInSentence_ > 0) out.text += '\n';
     wordInSentence_ = 0;
     spaceBefore_.clear();
 }
 
 void ConlluWriter::startSentence(const Paragraph& paragraph, std::size_t first, std::string_view text,
-                                 std::string& out) {
-    if (wordInSentence_ > 0) out += '\n';
-    if (paragraphPending_) out += "# newpar\n";
+                                 Piece& out) {
+    if (wordInSentence_ > 0) out.text += '\n';
+    if (paragraphPending_) out.text += "# newpar\n";
     paragraphPending_ = false;
     wordInSentence_ = 0;
-    out.append("# sent_id = ").append(std::to_string(++sentences_)).append("\n# text = ");
-    appendSentenceText(paragraph.tokens, first, text, out);
-    out += '\n';
+    out.startSentence();
+    out.text += "# sent_id = ";
+    out.appendSentenceNumber();
+    out.text += "\n# text = ";
+    appendSentenceText(paragraph.tokens, first, text, out.text);
+    out.text += '\n';
 }
 
 void ConlluWriter::addRow(const Token& token, std::string_view text) {
@@ -113,18 +117,26 @@ void ConlluWriter::addRow(const Token& token, std::string_view text) {
     row_.append("\t").append(nameOf(token.pos));
     row_.append("\t").append(nameTypeOrLexicalClass(token, text));
     row_.append("\t_\t_\t_\t_\t");
+    language_ = token.language;
+    script_ = token.script;
 }
 
 void ConlluWriter::finishRow(std::string& out) {
     if (row_.empty()) return;
     out += row_;
-    std::string misc;
-    if (!spaceBefore_.empty()) misc = "SpacesBefore=" + escaped(spaceBefore_);
-    if (spaceAfter_ != " ") {
-        if (!misc.empty()) misc += '|';
-        misc += spaceAfter_.empty() ? "SpaceAfter=No" : "SpacesAfter=" + escaped(spaceAfter_);
-    }
-    out.append(misc.empty() ? "_" : misc).append("\n");
+    // The guidelines want the fields in alphabetical order.
+    const std::size_t start = out.size();
+    const auto field = [&](std::string_view name, std::string_view value) {
+        if (out.size() > start) out += '|';
+        out.append(name).append("=").append(value);
+    };
+    if (!language_.empty()) field("Lang", language_);
+    if (!script_.empty()) field("Script", script_);
+    if (spaceAfter_.empty()) field("SpaceAfter", "No");
+    if (!spaceAfter_.empty() && spaceAfter_ != " ") field("SpacesAfter", escaped(spaceAfter_));
+    if (!spaceBefore_.empty()) field("SpacesBefore", escaped(spaceBefore_));
+    if (out.size() == start) out += '_';
+    out += '\n';
     row_.clear();
     spaceBefore_.clear();
     spaceAfter_.clear();

@@ -12,6 +12,7 @@ public:
     [[nodiscard]] TextStorage* textStorage() override { return this; }
     void replace(const AttributedText& text) override { text_ = text.string(); }
     void append(const AttributedText& text) override { text_ += text.string(); }
+    [[nodiscard]] AttributedText attributedText() const override { return {text_, Colour::text}; }
 
 private:
     std::string text_;

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "linguistics/Analysis.h"
+#include "linguistics/text/Analysis.h"
+#include "tools/lexiform-cli/Piece.h"
+#include "tools/lexiform-cli/TextBlock.h"
 
 #include <memory>
 #include <string>
@@ -8,26 +10,39 @@
 
 namespace lexiform::cli {
 
-/// Writes analysed texts in one format. All output is appended to the `out` of each call.
+/// Writes one block of an analysed text in one format.
 class TokenWriter {
 public:
     virtual ~TokenWriter() = default;
 
-    /// Before the first text.
-    virtual void start(std::string& /*out*/) {}
-    /// Before each text; `name` is empty when there is only one.
-    virtual void startText(std::string_view /*name*/, std::string& /*out*/) {}
-    /// The paragraphs of `text`, in order.
-    virtual void paragraph(const linguistics::Paragraph& paragraph, std::string_view text,
-                           std::string& out) = 0;
+    /// The paragraphs of `block`, in order; their ranges count from its start.
+    virtual void paragraph(const linguistics::Paragraph& paragraph, const TextBlock& block, Piece& out) = 0;
+    /// After the last paragraph of the block.
+    virtual void endBlock(Piece& /*out*/) {}
+};
+
+/// A format for analysed texts: what stands around their blocks, and a writer for these.
+class TokenFormat {
+public:
+    virtual ~TokenFormat() = default;
+
+    /// Before the first text and after the last.
+    [[nodiscard]] virtual std::string start() const { return ""; }
+    [[nodiscard]] virtual std::string end() const { return ""; }
+    /// Before each text; `name` is empty when there is only one, `first` tells that none came before.
+    [[nodiscard]] virtual std::string startText(std::string_view /*name*/, bool /*first*/) const {
+        return "";
+    }
     /// After each text.
-    virtual void endText(std::string& /*out*/) {}
+    [[nodiscard]] virtual std::string endText() const { return ""; }
+
+    [[nodiscard]] virtual std::unique_ptr<TokenWriter> writer() const = 0;
 };
 
 /// The names of the formats, in the order in which help lists them.
-inline constexpr const char* formatNames[] = {"conllu", "tsv", "ansi"};
+inline constexpr const char* formatNames[] = {"conllu", "tsv", "json", "ansi", "rtf", "html"};
 
-/// A writer of the named format; null for a name that is none.
-[[nodiscard]] std::unique_ptr<TokenWriter> writerFor(std::string_view format);
+/// The named format; null for a name that is none.
+[[nodiscard]] std::unique_ptr<TokenFormat> formatNamed(std::string_view name);
 
 } // namespace lexiform::cli

@@ -5,22 +5,25 @@
 
 namespace lexiform::cli {
 
-void TsvWriter::start(std::string& out) {
-    out += "sentence\tform\tlemma\tupos\ttag\tscript\tlanguage\tstart\tlength\n";
+std::string TsvFormat::start() const {
+    return "sentence\tform\tlemma\tupos\ttag\tscript\tlanguage\tstart\tlength\n";
 }
 
-void TsvWriter::paragraph(const linguistics::Paragraph& paragraph, std::string_view text, std::string& out) {
+void TsvWriter::paragraph(const linguistics::Paragraph& paragraph, const TextBlock& block, Piece& piece) {
+    const std::string_view text = block.text;
+    std::string& out = piece.text;
     for (const linguistics::Token& token : paragraph.tokens) {
         if (isBlank(token)) continue;
-        if (token.startsSentence) ++sentences_;
-        out.append(std::to_string(sentences_)).append("\t");
+        if (token.startsSentence) piece.startSentence();
+        piece.appendSentenceNumber();
+        out += '\t';
         out.append(substring(text, token.range)).append("\t");
         out.append(token.lemma.value_or("")).append("\t");
         out.append(nameOf(token.pos)).append("\t");
         out.append(nameTypeOrLexicalClass(token, text)).append("\t");
         out.append(token.script).append("\t");
         out.append(token.language).append("\t");
-        out.append(std::to_string(token.range.start)).append("\t");
+        out.append(std::to_string(block.offset + token.range.start)).append("\t");
         out.append(std::to_string(token.range.length)).append("\n");
     }
 }
