@@ -1,6 +1,7 @@
-# One call per folder: `lexiform_layer(NAME USES other layers LINKS libraries)` makes the static
-# library `lexiform_NAME` from every source in the folder but main.cpp, which is a program's. USES is the whole of what the layer may
-# include; tools/check_layers.py holds the includes against the same order of levels.
+# One call per folder: `lexiform_layer(NAME FOLDERS folders USES other layers LINKS libraries)` makes the static
+# library `lexiform_NAME` from every source in the folder, and in those of its folders that FOLDERS names, but
+# main.cpp, which is a program's. USES is the whole of what the layer may include; tools/check_layers.py holds
+# the includes against the same order of levels.
 
 add_library(lexiform_options INTERFACE)
 # GCC 12 sees an overlap in every `"text" + std::string` that it inlines (its bug 105329).
@@ -19,15 +20,27 @@ if(LEXIFORM_COVERAGE)
   target_link_options(lexiform_options INTERFACE --coverage)
 endif()
 
+# Sets `sources` to the sources in the current folder and in those of its folders that are named.
+macro(lexiform_sources)
+  set(patterns ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  foreach(folder ${ARGN})
+    list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+endmacro()
+
 function(lexiform_layer name)
-  cmake_parse_arguments(LAYER "" "" "USES;LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  cmake_parse_arguments(LAYER "" "" "FOLDERS;USES;LINKS" ${ARGN})
+  lexiform_sources(${LAYER_FOLDERS})
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   list(TRANSFORM LAYER_USES PREPEND lexiform_)
   if(sources)
     add_library(lexiform_${name} STATIC ${sources})
-    target_include_directories(lexiform_${name} PUBLIC ${PROJECT_SOURCE_DIR})
-    target_link_libraries(lexiform_${name} PUBLIC ${LAYER_USES} ${LAYER_LINKS} PRIVATE lexiform_options)
+    target_include_directories(lexiform_${name} PUBLIC
+      $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/lexiform>)
+    target_compile_features(lexiform_${name} PUBLIC cxx_std_20)
+    target_link_libraries(lexiform_${name} PUBLIC ${LAYER_USES} ${LAYER_LINKS}
+      PRIVATE $<BUILD_INTERFACE:lexiform_options>)
   else()
     add_library(lexiform_${name} INTERFACE)
     target_include_directories(lexiform_${name} INTERFACE ${PROJECT_SOURCE_DIR})
@@ -40,10 +53,11 @@ add_library(lexiform_test_options INTERFACE)
 target_compile_options(lexiform_test_options INTERFACE -O0)
 target_link_libraries(lexiform_test_options INTERFACE lexiform_options)
 
-# `lexiform_tests(NAME USES layers LINKS libraries)` makes one GoogleTest program from a tests folder.
+# `lexiform_tests(NAME FOLDERS folders USES layers LINKS libraries)` makes one GoogleTest program from a tests
+# folder and those of its folders that FOLDERS names.
 function(lexiform_tests name)
-  cmake_parse_arguments(TESTS "" "" "USES;LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  cmake_parse_arguments(TESTS "" "" "FOLDERS;USES;LINKS" ${ARGN})
+  lexiform_sources(${TESTS_FOLDERS})
   list(TRANSFORM TESTS_USES PREPEND lexiform_)
   add_executable(${name}-tests ${sources})
   target_link_libraries(${name}-tests PRIVATE ${TESTS_USES} ${TESTS_LINKS}

@@ -7,5 +7,5 @@ file(GLOB samples CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/samples/*.tx
 file(COPY ${models} DESTINATION ${CMAKE_BINARY_DIR}/share/lexiform/models)
 file(COPY ${samples} DESTINATION ${CMAKE_BINARY_DIR}/share/lexiform/samples)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${models} ${samples})
-install(FILES ${models} DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform/models)
+install(FILES ${models} DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform/models COMPONENT models)
 install(FILES ${samples} DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform/samples)

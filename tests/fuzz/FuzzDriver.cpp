@@ -1,5 +1,7 @@
 // Runs a fuzz target without a fuzzing engine: seeded random texts and mutations of them, for as many
 // seconds as the first argument says. The second argument, if any, is the seed.
+//
+// A target that has a language of its own defines `fuzzPieces`, of which its texts are made.
 
 #include <chrono>
 #include <cstddef>
@@ -13,6 +15,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
+__attribute__((weak)) const std::vector<std::string>& fuzzPieces();
+
 namespace {
 
 using Generator = std::mt19937_64;
@@ -23,6 +27,7 @@ std::size_t below(Generator& random, std::size_t limit) {
 
 // Pieces at which texts are cut: every connector, mark and line end has a part in some rule.
 const std::vector<std::string>& pieces() {
+    if (fuzzPieces != nullptr) return fuzzPieces();
     static const std::vector<std::string> all = {"the",
                                                  "Mr",
                                                  "U.S",

@@ -12,6 +12,10 @@ AnalysedText analysedBy(const Engine& engine, std::string text) {
     AnalysedText result{std::move(text), {}};
     engine.analyse(result.text, [&](const Paragraph& paragraph) {
         result.paragraphs.push_back(paragraph);
+        for (Token& token : result.paragraphs.back().tokens) {
+            token.language = result.strings.emplace_back(token.language);
+            if (token.lemma) token.lemma = result.strings.emplace_back(*token.lemma);
+        }
         return true;
     });
     return result;
@@ -66,8 +70,9 @@ Token AnalysedText::token(std::string_view spelling) const {
     fatalError("the text has no such token");
 }
 
-AnalysedText analysedPlainly(std::string text) {
-    static const Engine engine(std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{}));
+AnalysedText analysedPlainly(std::string text, const std::string& language) {
+    static const auto models = std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{});
+    const Engine engine(models, {language});
     return analysedBy(engine, std::move(text));
 }
 

@@ -2,6 +2,7 @@
 
 #include "linguistics/Engine.h"
 
+#include <deque>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -14,6 +15,7 @@ namespace lexiform::linguistics {
 struct AnalysedText {
     std::string text;
     std::vector<Paragraph> paragraphs;
+    std::deque<std::string> strings{}; ///< the languages and lemmas of the tokens
 
     [[nodiscard]] std::vector<Token> tokens() const;
     /// The tokens that are no white space and no line breaks, as they are spelt.
@@ -24,8 +26,8 @@ struct AnalysedText {
     [[nodiscard]] Token token(std::string_view spelling) const;
 };
 
-/// Analyses without any model.
-[[nodiscard]] AnalysedText analysedPlainly(std::string text);
+/// Analyses without any model, as text in `language` where one is given.
+[[nodiscard]] AnalysedText analysedPlainly(std::string text, const std::string& language = "");
 /// Analyses with the models of the project.
 [[nodiscard]] AnalysedText analysed(std::string text);
 

@@ -1,4 +1,4 @@
-#include "linguistics/ParagraphSplitter.h"
+#include "linguistics/segmentation/ParagraphSplitter.h"
 #include "tests/linguistics/AnalysedText.h"
 
 #include <gtest/gtest.h>

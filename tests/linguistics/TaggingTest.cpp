@@ -1,4 +1,4 @@
-#include "linguistics/Model.h"
+#include "linguistics/model/Model.h"
 #include "tests/linguistics/AnalysedText.h"
 
 #include <gmock/gmock.h>
@@ -45,24 +45,19 @@ TEST(Tagging, callsEmojiSymbolsWhateverStandsAround) {
     }
 }
 
-TEST(Tagging, leavesWordsOfOtherScriptsWithoutAClass) {
-    const AnalysedText text = analysed("Кошка спит на старом стуле!");
-    EXPECT_EQ(text.token("Кошка").pos, UniversalPos::X);
+TEST(Tagging, leavesWordsOfALanguageWithoutAModelWithoutAClass) {
+    const AnalysedText text = analysed("Η γάτα κοιμάται στην παλιά καρέκλα!");
+    EXPECT_EQ(text.token("γάτα").pos, UniversalPos::X);
+    EXPECT_EQ(text.token("γάτα").lemma, "γάτα");
+    EXPECT_EQ(text.token("γάτα").language, "el");
     EXPECT_EQ(text.token("!").pos, UniversalPos::PUNCT);
-    EXPECT_EQ(text.token("Кошка").language, "");
 }
 
-TEST(Tagging, leavesWhatIsPlainlyAnotherLanguageWithoutAClass) {
-    const AnalysedText text =
-        analysed("Pöytä oli täynnä vanhoja kirjoja, eikä kukaan muistanut kenen ne olivat.");
-    EXPECT_EQ(text.token("kirjoja").pos, UniversalPos::X);
-    EXPECT_EQ(text.token("kirjoja").language, "");
-}
-
-TEST(Tagging, saysEnglishOnlyWhereThereIsEnoughOfIt) {
-    EXPECT_EQ(analysed("The boats were gone when they came back from the market.").token("boats").language,
-              "en");
-    EXPECT_EQ(analysed("Chapter").token("Chapter").language, "");
+TEST(Tagging, tellsTheLanguageOfAWordInAnotherScriptInTheMidstOfASentence) {
+    const AnalysedText text = analysed("They call the old bread λαγάνα in that village.");
+    EXPECT_EQ(text.token("bread").pos, UniversalPos::NOUN);
+    EXPECT_EQ(text.token("λαγάνα").language, "el");
+    EXPECT_EQ(text.token("village").language, "en");
 }
 
 TEST(Tagging, findsNamesOfSeveralWords) {
@@ -131,9 +126,13 @@ TEST(Tagging, doesNotDependOnWhatTheCacheHolds) {
         EXPECT_EQ(before[i].pos, after[i].pos);
 }
 
-TEST(Tagging, setsNoLemma) {
-    for (const Token& token : analysed("The boats were gone.").tokens())
-        EXPECT_EQ(token.lemma, std::nullopt);
+TEST(Tagging, givesEveryTokenButWhiteSpaceALemma) {
+    const AnalysedText text = analysed("The boats were gone, 42 of them.");
+    for (const Token& token : text.tokens())
+        EXPECT_EQ(token.lemma.has_value(), !isGap(token)) << substring(text.text, token.range);
+    EXPECT_EQ(text.token("boats").lemma, "boat");
+    EXPECT_EQ(text.token("were").lemma, "be");
+    EXPECT_EQ(text.token("42").lemma, "42");
 }
 
 } // namespace

@@ -35,6 +35,7 @@ public:
         ++replacements;
     }
     void append(const AttributedText& text) override { content.append(text); }
+    [[nodiscard]] AttributedText attributedText() const override { return content; }
 
     AttributedText content;
     int replacements = 0;

@@ -23,4 +23,8 @@ void QtTextPane::append(const AttributedText& text) {
     if (edit_) edit_->appendText(text);
 }
 
+AttributedText QtTextPane::attributedText() const {
+    return edit_ ? edit_->attributedText() : AttributedText();
+}
+
 } // namespace lexiform::qt

@@ -21,6 +21,7 @@ public:
 
     void replace(const AttributedText& text) override;
     void append(const AttributedText& text) override;
+    [[nodiscard]] AttributedText attributedText() const override;
 
 private:
     QPointer<PaneTextEdit> edit_;

@@ -21,6 +21,16 @@ void ColourRuns::append(const AttributedText& text) {
     }
 }
 
+AttributedText ColourRuns::coloured(std::string_view text) const {
+    AttributedText result;
+    std::size_t start = 0;
+    for (std::size_t run = 0; run < ends_.size() && start < text.size(); ++run) {
+        result.append(text.substr(start, ends_[run] - start), colours_[run]);
+        start = ends_[run];
+    }
+    return result;
+}
+
 void ColourRuns::visit(std::size_t start, QStringView text, const Visitor& visitor) const {
     auto end = std::upper_bound(ends_.begin(), ends_.end(), start);
     std::size_t byte = start;

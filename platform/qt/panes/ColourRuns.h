@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <string_view>
 #include <vector>
 
 namespace lexiform::qt {
@@ -20,6 +21,9 @@ public:
     void clear();
     /// Adds the colours of a text that is added at the end.
     void append(const AttributedText& text);
+
+    /// The text that these are the colours of, `text` being its characters as UTF-8, with them.
+    [[nodiscard]] AttributedText coloured(std::string_view text) const;
 
     /// Visits the colours of `text`, which starts at the byte `start` of the whole.
     void visit(std::size_t start, QStringView text, const Visitor& visitor) const;

@@ -17,6 +17,10 @@ OutputTextEdit::OutputTextEdit(QWidget* parent) : PaneTextEdit(parent) {
     paneLayout().setBlockPreparation([this](const QTextBlock& block) { colour(block); });
 }
 
+AttributedText OutputTextEdit::attributedText() const {
+    return runs_.coloured(text());
+}
+
 void OutputTextEdit::prepareReplacement(const AttributedText& text, const TextBlocks& blocks) {
     runs_.clear();
     runs_.append(text);

@@ -24,6 +24,7 @@ public:
     /// The colour in which the character at a position of the document is painted; nothing past the
     /// end and at the end of a block.
     [[nodiscard]] std::optional<QColor> paintedColourAt(int position) const;
+    [[nodiscard]] AttributedText attributedText() const override;
 
 protected:
     void prepareReplacement(const AttributedText& text, const TextBlocks& blocks) override;

@@ -40,6 +40,10 @@ std::string PaneTextEdit::text() const {
     return withTrueLineEnds(document()->toRawText(), document()->begin(), ownLineEnd_).toStdString();
 }
 
+AttributedText PaneTextEdit::attributedText() const {
+    return {text(), Colour::text};
+}
+
 void PaneTextEdit::replaceText(const AttributedText& text) {
     const TextBlocks blocks = cutIntoBlocks(text.string());
     const bool undoable = document()->isUndoRedoEnabled();

@@ -30,6 +30,8 @@ public:
 
     /// The text as UTF-8, every character and line end as it was given or typed.
     [[nodiscard]] std::string text() const;
+    /// The same with the colours in which it is painted; all in the text colour but for subclasses.
+    [[nodiscard]] virtual AttributedText attributedText() const;
     /// Puts `text` in the place of all and scrolls to the top. The history of edits is forgotten and
     /// the document counts as unmodified. Colours are for subclasses: this class paints none.
     void replaceText(const AttributedText& text);

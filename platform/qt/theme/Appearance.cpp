@@ -1,5 +1,7 @@
 #include "platform/qt/theme/Appearance.h"
 
+#include "base/lightValue.h"
+
 #include <array>
 #include <cstddef>
 
@@ -7,24 +9,9 @@ namespace lexiform::qt {
 
 namespace {
 
-struct Shades {
-    QRgb light;
-    QRgb dark;
-};
-
-// In the order of Colour. The familiar system values all miss a contrast of 4.5:1 on white.
-constexpr std::array<Shades, 10> shades = {{
-    {0xFF6E6E73, 0xFF9A9AA0},
-    {0xFFD70015, 0xFFFF6961},
-    {0xFF0055D4, 0xFF5AA9FF},
-    {0xFF1A7F37, 0xFF3DD65C},
-    {0xFF8A3FB0, 0xFFD18BFA},
-    {0xFF8A6A00, 0xFFFFD60A},
-    {0xFF7A5230, 0xFFC9A77C},
-    {0xFFD30F6E, 0xFFFF85B5},
-    {0xFFB84A00, 0xFFFFA033},
-    {0xFF1B1E23, 0xFFE7E9EC},
-}};
+// In the order of Colour.
+constexpr std::array<QRgb, 10> darkValues = {0xFF9A9AA0, 0xFFFF6961, 0xFF5AA9FF, 0xFF3DD65C, 0xFFD18BFA,
+                                             0xFFFFD60A, 0xFFC9A77C, 0xFFFF85B5, 0xFFFFA033, 0xFFE7E9EC};
 
 } // namespace
 
@@ -35,8 +22,9 @@ Appearance appearanceOf(const QPalette& palette) {
 }
 
 QColor valueOf(Colour colour, Appearance appearance) {
-    const Shades& pair = shades[static_cast<std::size_t>(colour)];
-    return QColor::fromRgb(appearance == Appearance::dark ? pair.dark : pair.light);
+    if (appearance == Appearance::dark) return QColor::fromRgb(darkValues[static_cast<std::size_t>(colour)]);
+    const Rgb light = lightValue(colour);
+    return {light.red, light.green, light.blue};
 }
 
 const Surfaces& surfacesOf(Appearance appearance) {

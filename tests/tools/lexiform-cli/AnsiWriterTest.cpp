@@ -13,10 +13,10 @@ using enum linguistics::UniversalPos;
 
 std::string written(const HandMadeText& made) {
     AnsiWriter writer;
-    std::string out;
-    writer.paragraph(made.paragraph, made.text, out);
-    writer.endText(out);
-    return out;
+    Piece piece;
+    writer.paragraph(made.paragraph, {made.text}, piece);
+    writer.endBlock(piece);
+    return piece.text;
 }
 
 std::string withoutColours(std::string out) {

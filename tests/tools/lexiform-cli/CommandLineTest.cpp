@@ -20,7 +20,7 @@ TEST(CommandLine, understandsTheTagCommand) {
                                                 "--key",        "a.txt", "-"};
     const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
     ASSERT_TRUE(request.succeeded());
-    const auto& tag = std::get<TagRequest>(request.value());
+    const auto& tag = std::get<TagRequest>(request.value().command);
     EXPECT_EQ(tag.format, "ansi");
     EXPECT_TRUE(tag.withKey);
     EXPECT_EQ(tag.files, (std::vector<std::string>{"a.txt", "-"}));
@@ -30,18 +30,48 @@ TEST(CommandLine, understandsTheConcordanceCommand) {
     const std::vector<const char*> arguments = {"lexiform-cli", "concordance", "--lemmas", "--each", "a.txt"};
     const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
     ASSERT_TRUE(request.succeeded());
-    const auto& concordance = std::get<ConcordanceRequest>(request.value());
+    const auto& concordance = std::get<ConcordanceRequest>(request.value().command);
     EXPECT_TRUE(concordance.lemmas);
     EXPECT_TRUE(concordance.each);
     EXPECT_EQ(concordance.files, std::vector<std::string>{"a.txt"});
 }
 
+TEST(CommandLine, takesTheNumberOfThreadsAndTheLanguage) {
+    const std::vector<const char*> arguments = {"lexiform-cli", "tag", "--jobs", "4", "--language", "pt-BR"};
+    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
+    ASSERT_TRUE(request.succeeded());
+    EXPECT_EQ(std::get<TagRequest>(request.value().command).jobs, 4U);
+    EXPECT_EQ(request.value().language, "pt-BR");
+}
+
+TEST(CommandLine, understandsTheLanguageAndTheModelsCommand) {
+    const std::vector<const char*> arguments = {"lexiform-cli", "language", "--by", "sentence", "a.txt"};
+    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
+    ASSERT_TRUE(request.succeeded());
+    EXPECT_EQ(std::get<LanguageRequest>(request.value().command).by, "sentence");
+    const char* const models[] = {"lexiform-cli", "models"};
+    EXPECT_TRUE(std::holds_alternative<ModelsRequest>(parseCommandLine(2, models, "1.2.3").value().command));
+}
+
+TEST(CommandLine, understandsTheTextCommand) {
+    const std::vector<const char*> arguments = {"lexiform-cli", "text", "--type", "rtf", "a", "b"};
+    const auto request = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), "1.2.3");
+    ASSERT_TRUE(request.succeeded());
+    const auto& text = std::get<TextRequest>(request.value().command);
+    EXPECT_EQ(text.type, "rtf");
+    EXPECT_EQ(text.files, (std::vector<std::string>{"a", "b"}));
+}
+
 TEST(CommandLine, exitsWithTwoWhenItIsMisused) {
+    EXPECT_EQ(statusOf({"text", "--type", "pdf"}), 2);
     EXPECT_EQ(statusOf({}), 2);
     EXPECT_EQ(statusOf({"paint"}), 2);
     EXPECT_EQ(statusOf({"tag", "--format", "pdf"}), 2);
     EXPECT_EQ(statusOf({"tag", "--colour"}), 2);
     EXPECT_EQ(statusOf({"tag", "--key"}), 2);
+    EXPECT_EQ(statusOf({"tag", "--jobs", "0"}), 2);
+    EXPECT_EQ(statusOf({"tag", "--language", "e n"}), 2);
+    EXPECT_EQ(statusOf({"language", "--by", "word"}), 2);
 }
 
 TEST(CommandLine, namesAWordThatIsNoCommand) {

@@ -1,6 +1,5 @@
 #include "tools/lexiform-cli/ConcordanceCommand.h"
 
-#include "platform/linguistics/LinguisticTagger.h"
 #include "tests/tools/lexiform-cli/CommandTest.h"
 
 namespace lexiform::cli {
@@ -10,7 +9,7 @@ class ConcordanceCommand : public CommandTest {
 protected:
     int run(const ConcordanceRequest& request) {
         return runWith([&](const auto& engine, std::FILE* outFile, std::FILE* errorsFile) {
-            return concordance(request, linguisticTaggers(engine), outFile, errorsFile);
+            return concordance(request, engine, outFile, errorsFile);
         });
     }
 };

@@ -9,12 +9,13 @@ namespace {
 
 using enum linguistics::UniversalPos;
 
-std::string written(const HandMadeText& made) {
+std::string written(const HandMadeText& made, std::size_t sentencesBefore = 0) {
     ConlluWriter writer;
+    Piece piece;
+    writer.paragraph(made.paragraph, {made.text}, piece);
+    writer.endBlock(piece);
     std::string out;
-    writer.startText("", out);
-    writer.paragraph(made.paragraph, made.text, out);
-    writer.endText(out);
+    piece.appendTo(out, sentencesBefore);
     return out;
 }
 
@@ -38,15 +39,15 @@ TEST(ConlluWriter, writesSentencesWithTheirTextAndOneTokenALine) {
     EXPECT_EQ(written(made), "# newpar\n"
                              "# sent_id = 1\n"
                              "# text = Cats sleep.\n"
-                             "1\tCats\t_\tNOUN\tNoun\t_\t_\t_\t_\t_\n"
-                             "2\tsleep\t_\tVERB\tVerb\t_\t_\t_\t_\tSpaceAfter=No\n"
+                             "1\tCats\t_\tNOUN\tNoun\t_\t_\t_\t_\tLang=en|Script=Latn\n"
+                             "2\tsleep\t_\tVERB\tVerb\t_\t_\t_\t_\tLang=en|Script=Latn|SpaceAfter=No\n"
                              "3\t.\t_\tPUNCT\tSentenceTerminator\t_\t_\t_\t_\t_\n"
                              "\n"
                              "# sent_id = 2\n"
                              "# text = I don't.\n"
-                             "1\tI\t_\tPRON\tPronoun\t_\t_\t_\t_\t_\n"
-                             "2\tdo\t_\tAUX\tVerb\t_\t_\t_\t_\tSpaceAfter=No\n"
-                             "3\tn't\t_\tPART\tParticle\t_\t_\t_\t_\tSpaceAfter=No\n"
+                             "1\tI\t_\tPRON\tPronoun\t_\t_\t_\t_\tLang=en|Script=Latn\n"
+                             "2\tdo\t_\tAUX\tVerb\t_\t_\t_\t_\tLang=en|Script=Latn|SpaceAfter=No\n"
+                             "3\tn't\t_\tPART\tParticle\t_\t_\t_\t_\tLang=en|Script=Latn|SpaceAfter=No\n"
                              "4\t.\t_\tPUNCT\tSentenceTerminator\t_\t_\t_\t_\tSpaceAfter=No\n"
                              "\n");
 }
@@ -54,13 +55,13 @@ TEST(ConlluWriter, writesSentencesWithTheirTextAndOneTokenALine) {
 TEST(ConlluWriter, keepsUnusualWhiteSpaceInTheLastColumn) {
     HandMadeText made;
     made.space("\t")
-        .word("a", X, true)
+        .add("a", {.startsSentence = true})
         .space("  ")
-        .word("b", X)
+        .add("b", {})
         .space("\u00A0")
-        .word("c", X)
+        .add("c", {})
         .lineBreak("\r\n");
-    EXPECT_EQ(lastColumns(made), (std::vector<std::string>{"SpacesBefore=\\t|SpacesAfter=\\s\\s",
+    EXPECT_EQ(lastColumns(made), (std::vector<std::string>{"SpacesAfter=\\s\\s|SpacesBefore=\\t",
                                                            "SpacesAfter=\\u00A0", "SpacesAfter=\\r\\n"}));
 }
 
@@ -82,18 +83,24 @@ TEST(ConlluWriter, writesTheLemmaThatTheEngineGives) {
     EXPECT_NE(written(made).find("1\tmice\tmouse\tNOUN\t"), std::string::npos);
 }
 
-TEST(ConlluWriter, namesEachOfSeveralTextsAndNumbersTheirSentencesOn) {
+TEST(ConlluWriter, tellsLanguageAndScriptWhereTheyCanBeTold) {
     HandMadeText made;
-    made.word("Yes", INTJ, true);
-    ConlluWriter writer;
-    std::string out;
-    for (const char* name : {"a.txt", "b.txt"}) {
-        writer.startText(name, out);
-        writer.paragraph(made.paragraph, made.text, out);
-        writer.endText(out);
-    }
-    EXPECT_EQ(out.find("# newdoc id = a.txt\n# newpar\n# sent_id = 1\n"), 0U);
-    EXPECT_NE(out.find("\n\n# newdoc id = b.txt\n# newpar\n# sent_id = 2\n"), std::string::npos);
+    made.add("хлеб", {.startsSentence = true, .script = "Cyrl", .language = "ru"}).space(" ");
+    made.add("42", {.script = "Cyrl"}).space(" ");
+    EXPECT_EQ(lastColumns(made), (std::vector<std::string>{"Lang=ru|Script=Cyrl", "Script=Cyrl"}));
+}
+
+TEST(ConlluWriter, numbersSentencesOnFromThoseBefore) {
+    HandMadeText made;
+    made.word("Yes", INTJ, true).space(" ").word("No", INTJ, true);
+    const std::string out = written(made, 41);
+    EXPECT_NE(out.find("# sent_id = 42\n# text = Yes\n"), std::string::npos);
+    EXPECT_NE(out.find("# sent_id = 43\n# text = No\n"), std::string::npos);
+}
+
+TEST(ConlluFormat, namesEachOfSeveralTexts) {
+    EXPECT_EQ(ConlluFormat().startText("a.txt", true), "# newdoc id = a.txt\n");
+    EXPECT_EQ(ConlluFormat().startText("", true), "");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linguistics/Analysis.h"
+#include "linguistics/text/Analysis.h"
 
 #include <string>
 #include <vector>

@@ -36,7 +36,7 @@ std::string joinedForms(const std::string& conllu) {
 TEST_F(TagCommand, tagsAFile) {
     EXPECT_EQ(run({.files = {file("cat.txt", "The cat sat.\n")}}), 0);
     EXPECT_NE(out.find("# text = The cat sat.\n1\tThe\t"), std::string::npos);
-    EXPECT_NE(out.find("\tcat\t_\tNOUN\tNoun\t"), std::string::npos);
+    EXPECT_NE(out.find("\tcat\tcat\tNOUN\tNoun\t"), std::string::npos);
     EXPECT_EQ(errors, "");
 }
 
@@ -69,6 +69,29 @@ TEST_F(TagCommand, refusesAFolder) {
     const std::string folder = fs::temp_directory_path().string();
     EXPECT_EQ(run({.files = {folder}}), 1);
     EXPECT_EQ(errors, "lexiform-cli: " + folder + ": Is a directory\n");
+}
+
+TEST_F(TagCommand, writesTheSameWithAnyNumberOfThreads) {
+    std::string text;
+    for (int i = 0; text.size() < 900'000; ++i)
+        text += "Day " + std::to_string(i) + ": the old sailor said that he'd seen the sea. He left.\n\n";
+    const std::string name = file("long.txt", text);
+    for (const char* format : {"conllu", "tsv", "json", "ansi"}) {
+        EXPECT_EQ(run({.format = format, .files = {name, name}}), 0);
+        const std::string alone = out;
+        EXPECT_EQ(run({.format = format, .jobs = 3, .files = {name, name}}), 0);
+        EXPECT_TRUE(out == alone) << format;
+    }
+}
+
+TEST_F(TagCommand, countsPlacesThroughTheBlocksOfALongText) {
+    std::string text(700'000, 'x');
+    for (std::size_t i = 90; i < text.size(); i += 90)
+        text[i] = '\n';
+    text += "\n\nLast.";
+    EXPECT_EQ(run({.format = "tsv", .files = {file("long.txt", text)}}), 0);
+    const std::string last = out.substr(out.rfind("\tLast\t"));
+    EXPECT_NE(last.find("\t" + std::to_string(text.size() - 5) + "\t4\n"), std::string::npos);
 }
 
 TEST_F(TagCommand, addsTheKeyToATextInColours) {

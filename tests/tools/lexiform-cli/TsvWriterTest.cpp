@@ -13,9 +13,10 @@ TEST(TsvWriter, writesAHeadingAndOneTokenALineWithoutWhiteSpace) {
     HandMadeText made;
     made.word("Été", NOUN, true).space(" ").word("gone", VERB).word("Oh", INTJ, true);
     TsvWriter writer;
-    std::string out;
-    writer.start(out);
-    writer.paragraph(made.paragraph, made.text, out);
+    Piece piece;
+    writer.paragraph(made.paragraph, {made.text}, piece);
+    std::string out = TsvFormat().start();
+    piece.appendTo(out, 0);
     EXPECT_EQ(out, "sentence\tform\tlemma\tupos\ttag\tscript\tlanguage\tstart\tlength\n"
                    "1\tÉté\t\tNOUN\tNoun\tLatn\ten\t0\t5\n"
                    "1\tgone\t\tVERB\tVerb\tLatn\ten\t6\t4\n"

@@ -9,7 +9,7 @@ namespace {
 using testing::ElementsAre;
 
 std::vector<std::string> wordsOf(const std::string& text) {
-    return analysedPlainly(text).words();
+    return analysedPlainly(text, "en").words();
 }
 TokenKind kindOf(const std::string& token) {
     return analysedPlainly(token).tokens().at(0).kind;

@@ -1,0 +1,93 @@
+#include "tools/train/lemmas/AffixDictionary.h"
+#include "tools/train/lemmas/JsonPaths.h"
+#include "tools/train/lemmas/TurkishParadigms.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+namespace lexiform::train {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+std::vector<std::string> stringsOf(std::string_view json) {
+    std::vector<std::string> seen;
+    forEachJsonString(json, [&](const std::vector<std::string>& names, const std::string& value) {
+        std::string path;
+        for (const std::string& name : names)
+            path += name + "/";
+        seen.push_back(path + value);
+    });
+    return seen;
+}
+
+TEST(JsonPathsTest, tellsEachStringWithTheNamesThatLeadToIt) {
+    EXPECT_THAT(
+        stringsOf(R"({"noun": {"mice": ["mouse"], "feet": ["foot", "feet"]}, "adj": ["old", "new"]})"),
+        ElementsAre("noun/mice/mouse", "noun/feet/foot", "noun/feet/feet", "adj/old", "adj/new"));
+    EXPECT_THAT(stringsOf(R"({"a:b,{": "c\"d", "\u00e9": "o\u00edr"})"), ElementsAre("a:b,{/c\"d", "é/oír"));
+}
+
+TEST(JsonPathsTest, readsWhatIsCutOffAsFarAsItGoes) {
+    EXPECT_THAT(stringsOf(R"({"a": "b", "c": "d)"), ElementsAre("a/b"));
+    EXPECT_THAT(stringsOf("}}]]\"\\"), ElementsAre());
+}
+
+TEST(AffixDictionaryTest, givesTheFormsThatTheFlagsOfAWordAllow) {
+    const fs::path folder = fs::path(testing::TempDir()) / "AffixDictionaryTest";
+    fs::create_directories(folder);
+    std::ofstream(folder / "x.aff")
+        << "SET UTF-8\nSFX S Y 2\nSFX S 0 s [^sy]\nSFX S y ies [^aeo]y\nPFX R Y 1\nPFX R 0 re .\n";
+    std::ofstream(folder / "x.dic") << "3\ncat/S\nberry/RS\nboy/S\nmoss/S\nsole\n";
+    std::vector<std::string> forms;
+    forEachAffixedForm(folder / "x.aff", folder / "x.dic", [&](const AffixedForm& form) {
+        if (!form.flag.empty()) forms.push_back(std::string(form.form) + "<" + std::string(form.word));
+    });
+    fs::remove_all(folder);
+    EXPECT_THAT(forms, ElementsAre("cats<cat", "berries<berry"));
+}
+
+std::set<std::string> nounForms(std::string_view root) {
+    std::set<std::string> forms;
+    forEachTurkishNounForm(root, [&](const std::string& form) { forms.insert(form); });
+    return forms;
+}
+
+std::set<std::string> verbForms(std::string_view root) {
+    std::set<std::string> forms;
+    forEachTurkishVerbForm(root, [&](const std::string& form) { forms.insert(form); });
+    return forms;
+}
+
+TEST(TurkishParadigmsTest, followsTheHarmonyOfVowels) {
+    for (const char* form : {"ev", "evler", "evde", "evimizden", "evlerini"})
+        EXPECT_THAT(nounForms("ev"), Contains(form));
+    EXPECT_THAT(nounForms("okul"), Contains("okulumuzda"));
+    EXPECT_THAT(nounForms("araba"), Contains("arabasının"));
+    EXPECT_THAT(nounForms("göz"), Contains("gözlerinde"));
+    EXPECT_THAT(nounForms("ev"), Not(Contains("evlar")));
+}
+
+TEST(TurkishParadigmsTest, softensTheLastConsonant) {
+    for (const char* form : {"kitabı", "kitaptan", "kitaplar"})
+        EXPECT_THAT(nounForms("kitap"), Contains(form));
+    EXPECT_THAT(nounForms("renk"), Contains("rengi"));
+}
+
+TEST(TurkishParadigmsTest, conjugates) {
+    for (const char* form :
+         {"geldi", "geldim", "geliyor", "gelmiş", "gelecek", "gelmedi", "gelen", "gelince", "gelmek"})
+        EXPECT_THAT(verbForms("gel"), Contains(form));
+    for (const char* form : {"başladı", "başlıyor", "başlayacak", "başladığını"})
+        EXPECT_THAT(verbForms("başla"), Contains(form));
+    EXPECT_THAT(verbForms("git"), Contains("gidiyor"));
+}
+
+} // namespace
+} // namespace lexiform::train
