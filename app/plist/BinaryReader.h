@@ -16,7 +16,8 @@ namespace lexiform::plist {
 /// and one that is shared too often at that on objects or bytes.
 class BinaryReader {
 public:
-    explicit BinaryReader(const BinaryTrailer& trailer) : trailer_(trailer) {}
+    explicit BinaryReader(const BinaryTrailer& trailer)
+        : trailer_(trailer), budget_(trailer.objects.size() + trailer.offsets.size()) {}
 
     [[nodiscard]] std::optional<PropertyList> read() { return object(trailer_.root, 0); }
 

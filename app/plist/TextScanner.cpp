@@ -56,8 +56,6 @@ bool TextScanner::take(char character) {
 std::optional<std::string> TextScanner::takeString() {
     for (const char mark : {'"', '\''})
         if (take(mark)) return takeQuoted(text_, at_, mark);
-    // What is not closed is no word either.
-    if (text_.substr(at_).starts_with("/*")) return std::nullopt;
     const std::size_t start = at_;
     while (!isAtEnd() && belongsToWord(text_[at_]))
         ++at_;

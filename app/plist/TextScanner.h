@@ -12,7 +12,8 @@ class TextScanner {
 public:
     explicit TextScanner(std::string_view text) : text_(text) {}
 
-    /// Goes on behind white space and comments. A comment that is not closed stays, and nothing takes it.
+    /// Goes on behind white space and comments. A comment that is not closed stays, and nothing
+    /// takes its star.
     void skipSpace();
     [[nodiscard]] bool isAtEnd() const { return at_ == text_.size(); }
     /// Steps over a character if it is the next one.

@@ -158,6 +158,30 @@ TEST(BinaryList, refusesSharingThatUnpacksToTooManyObjects) {
     EXPECT_FALSE(readPropertyList(binaryListOf(objects)));
 }
 
+TEST(BinaryList, bearsOnlySoMuchSharingForItsSize) {
+    const auto doubled = [](int times) {
+        std::vector<std::string> objects;
+        for (int i = 1; i <= times; ++i)
+            objects.push_back(bytesOf({0xA2, i, i}));
+        objects.push_back("\x09");
+        return binaryListOf(objects);
+    };
+    EXPECT_TRUE(readPropertyList(doubled(12)));
+    EXPECT_FALSE(readPropertyList(doubled(15)));
+}
+
+TEST(BinaryList, refusesCountsThatOverflow) {
+    EXPECT_FALSE(readPropertyList(binaryListOf({"\x6F\x13" + bigEndianOf(std::uint64_t{1} << 63U, 8)})));
+    EXPECT_FALSE(
+        readPropertyList(binaryListOf({"\xAF\x13" + bigEndianOf(std::uint64_t{1} << 63U, 8)}, {1, 2})));
+}
+
+TEST(BinaryList, refusesATableThatHoldsPartOfAnOffset) {
+    std::string list = binaryListOf({"\x09"}, {2, 1});
+    ASSERT_TRUE(readPropertyList(list));
+    EXPECT_FALSE(readPropertyList(list.insert(list.size() - 32, 1, '\0')));
+}
+
 TEST(BinaryList, refusesSharingThatUnpacksToTooManyBytes) {
     constexpr std::size_t size = mostContentBytes / 64;
     const std::string text = "\x4F\x12" + bigEndianOf(size, 4) + std::string(size, 'a');
