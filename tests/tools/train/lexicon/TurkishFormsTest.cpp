@@ -1,6 +1,6 @@
 #include "tools/train/lexicon/TurkishForms.h"
 #include "tests/tools/train/GoldWords.h"
-#include "tools/train/lexicon/TurkishSilver.h"
+#include "tools/train/silver/TurkishSilver.h"
 
 #include <gtest/gtest.h>
 
