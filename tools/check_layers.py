@@ -16,6 +16,7 @@ LAYERS = {
     "ports": (("base",), ()),
     "analysis": (("analysis/tagger", "ports", "base"), ("unicode/",)),
     "document": (("analysis", "ports", "base"), ()),
+    "app": (("document", "analysis", "ports", "base"), ()),
     "platform/linguistics": (("linguistics", "analysis/tagger", "base"), ("unicode/",)),
     "platform/qt": (
         ("document", "analysis", "analysis/tagger", "ports", "platform/linguistics", "linguistics", "base"),
@@ -56,6 +57,7 @@ INSIDE = {
         "document/format", "document/package", "document/rtf", "document/html", "document/odf",
         "document/docx", "document/epub",
     ),
+    "app/plist": (),
     "tools/lexiform-cli": (),
     "tools/train/file": (),
     "tools/train/corpora": (),

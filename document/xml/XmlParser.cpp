@@ -84,6 +84,24 @@ void onAttributeDeclaration(void* run, const xmlChar* /*element*/, const xmlChar
     static_cast<Run*>(run)->refuse();
 }
 
+void onElementDeclaration(void* run, const xmlChar* /*name*/, int /*type*/, xmlElementContent* /*content*/) {
+    static_cast<Run*>(run)->refuse();
+}
+
+void onNotation(void* run, const xmlChar* /*name*/, const xmlChar* /*publicId*/,
+                const xmlChar* /*systemId*/) {
+    static_cast<Run*>(run)->refuse();
+}
+
+void onUnparsedEntity(void* run, const xmlChar* /*name*/, const xmlChar* /*publicId*/,
+                      const xmlChar* /*systemId*/, const xmlChar* /*notation*/) {
+    static_cast<Run*>(run)->refuse();
+}
+
+void onReference(void* run, const xmlChar* /*name*/) {
+    static_cast<Run*>(run)->handler.missingEntity();
+}
+
 xmlSAXHandler callbacks() {
     xmlSAXHandler handler{};
     handler.initialized = XML_SAX2_MAGIC;
@@ -94,6 +112,10 @@ xmlSAXHandler callbacks() {
     handler.cdataBlock = onText;
     handler.entityDecl = onEntity;
     handler.attributeDecl = onAttributeDeclaration;
+    handler.elementDecl = onElementDeclaration;
+    handler.notationDecl = onNotation;
+    handler.unparsedEntityDecl = onUnparsedEntity;
+    handler.reference = onReference;
     return handler;
 }
 

@@ -38,6 +38,8 @@ public:
     virtual void endElement(const XmlName& name) = 0;
     /// A piece of text; a text may come in many.
     virtual void characters(std::string_view text) = 0;
+    /// A reference to an entity that only a declaration outside the file could explain; its text is missing.
+    virtual void missingEntity() {}
 };
 
 /// The most elements that are open at a time, and the most namespaces that they declare.
