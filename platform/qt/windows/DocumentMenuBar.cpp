@@ -23,8 +23,9 @@ DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const WindowService
     addMenu(new EditMenu(window));
     addTextMenu(actions);
     addViewMenu(services);
+    addToolsMenu(services);
     addMenu(new WindowMenu(services.windows, window));
-    addHelpMenu();
+    addHelpMenu(services);
 }
 
 void DocumentMenuBar::addFileMenu() {
@@ -51,8 +52,17 @@ void DocumentMenuBar::addViewMenu(const WindowServices& services) {
     menu->addAction(new FullScreenAction(*window()));
 }
 
-void DocumentMenuBar::addHelpMenu() {
-    addMenu(tr("&Help"))->addAction(tr("&About Lexiform"), this, [this] { showAbout(*window()); });
+void DocumentMenuBar::addToolsMenu(const WindowServices& services) {
+    if (services.application != nullptr) addMenu(tr("T&ools"))->addActions(services.application->inTools());
+}
+
+void DocumentMenuBar::addHelpMenu(const WindowServices& services) {
+    QMenu* menu = addMenu(tr("&Help"));
+    if (services.application != nullptr) {
+        menu->addActions(services.application->inHelp());
+        menu->addSeparator();
+    }
+    menu->addAction(tr("&About Lexiform"), this, [this] { showAbout(*window()); });
 }
 
 } // namespace lexiform::qt

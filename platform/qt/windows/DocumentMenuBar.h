@@ -23,7 +23,8 @@ private:
     void addFileMenu();
     void addTextMenu(const TextActions& actions);
     void addViewMenu(const WindowServices& services);
-    void addHelpMenu();
+    void addToolsMenu(const WindowServices& services);
+    void addHelpMenu(const WindowServices& services);
 };
 
 } // namespace lexiform::qt
