@@ -40,7 +40,4 @@ if(LEXIFORM_QT)
   install(FILES ${bundle}/${metadata} DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT application)
   install(FILES resources/bundle/lexiform.desktop
     DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT application)
-  # The build goes without a manual where its tools are missing.
-  install(FILES ${CMAKE_BINARY_DIR}/share/lexiform/LexiformHelp.pdf
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform COMPONENT application OPTIONAL)
 endif()

@@ -3,6 +3,10 @@
 
 # The one folder of the components that share the package.
 file(GLOB prefix ${CPACK_TEMPORARY_DIRECTORY}/*${CPACK_PACKAGING_INSTALL_PREFIX})
+list(LENGTH prefix folders)
+if(NOT folders EQUAL 1)
+  message(FATAL_ERROR "There is not one folder of installed files below ${CPACK_TEMPORARY_DIRECTORY}: ${prefix}")
+endif()
 set(documents ${prefix}/share/doc/lexiform)
 
 function(compress)
