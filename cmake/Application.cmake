@@ -1,5 +1,5 @@
-# Installs what belongs to the programs beside themselves: manual pages and, with the desktop application, its manual,
-# its icon, and the files by which a desktop knows it.
+# Installs what belongs to the programs beside themselves: manual pages and, with the desktop application, its icon and
+# the files by which a desktop knows it.
 
 # Honours SOURCE_DATE_EPOCH, so that a package can be built again byte by byte.
 string(TIMESTAMP LEXIFORM_DATE %Y-%m-%d UTC)
