@@ -2,6 +2,7 @@
 
 #include "platform/qt/panes/PaneDocumentLayout.h"
 #include "platform/qt/panes/PaneFont.h"
+#include "platform/qt/panes/PaneScrollBar.h"
 #include "platform/qt/panes/TextBlocks.h"
 #include "platform/qt/panes/lineEndMarks.h"
 #include "platform/qt/theme/Appearance.h"
@@ -12,12 +13,24 @@
 #include <QStyle>
 #include <QTextBlock>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lexiform::qt {
 
+namespace {
+
+// The scroll bar stands in the right margin, and is narrower where that is.
+int scrollBarWidth(const QMargins& margins) {
+    return std::min(PaneScrollBar::barWidth, margins.right());
+}
+
+} // namespace
+
 PaneTextEdit::PaneTextEdit(const QMargins& margins, QWidget* parent) : QPlainTextEdit(parent) {
-    installDocument(margins);
+    installDocument(margins - QMargins(0, 0, scrollBarWidth(margins), 0));
+    setVerticalScrollBar(new PaneScrollBar(scrollBarWidth(margins)));
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setFont(paneFont());
     takeSpacingFromFont();
     setFrameStyle(QFrame::NoFrame);

@@ -50,6 +50,7 @@ QToolTip { background: $fill; color: $text; border: 1px solid $outline; padding:
 
 QScrollBar { background: transparent; border: none; }
 QScrollBar:vertical { width: 10px; margin: 2px; }
+lexiform--qt--KeyTextEdit QScrollBar:vertical { width: 8px; margin: 2px 0 2px 2px; }
 QScrollBar:horizontal { height: 10px; margin: 2px; }
 QScrollBar::handle { background: $grip; border-radius: 3px; }
 QScrollBar::handle:vertical { min-height: 32px; }

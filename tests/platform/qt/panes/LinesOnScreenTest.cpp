@@ -1,5 +1,6 @@
 #include "platform/qt/panes/InputTextEdit.h"
 #include "platform/qt/panes/OutputTextEdit.h"
+#include "platform/qt/panes/PaneScrollBar.h"
 #include "platform/qt/theme/Palette.h"
 
 #include <QApplication>
@@ -75,7 +76,7 @@ TEST(LinesOnScreen, areTallerWhereTheirCharactersAre) {
     for (QTextBlock block = pane.document()->begin(); block.next().isValid(); block = block.next()) {
         const QTextLine line = block.layout()->lineAt(0);
         const qreal slot = pane.topOf(block.blockNumber() + 1) - pane.topOf(block.blockNumber());
-        const qreal topMargin = block.blockNumber() == 0 ? 17 : 0; // stands above what the editor counts
+        const qreal topMargin = block.blockNumber() == 0 ? 12 : 0; // stands above what the editor counts
         EXPECT_GE(slot + topMargin, line.height() - 0.01);
     }
 }
@@ -86,14 +87,47 @@ TEST(LinesOnScreen, keepTheirMargins) {
     EXPECT_EQ(pane.caretAt(0).top(), 4);
     const QTextLine line = pane.document()->begin().layout()->lineAt(0);
     EXPECT_EQ(line.x(), 22);
-    EXPECT_NEAR(line.width(), pane.viewport()->width() - 42, 0.01);
+    EXPECT_NEAR(line.width(), pane.width() - 42, 0.01);
+}
+
+TEST(LinesOnScreen, breakAtTheSameWordsAtEveryHeightOfThePane) {
+    Pane pane(wrapped + "\n" + wrapped);
+    const auto lineCounts = [&](int height) {
+        pane.resize(300, height);
+        (void)pane.grab();
+        QList<int> counts{pane.verticalScrollBar()->width()};
+        for (QTextBlock block = pane.document()->begin(); block.isValid(); block = block.next())
+            counts.append(block.layout()->lineCount());
+        return counts;
+    };
+    const QList<int> tall = lineCounts(600);
+    EXPECT_EQ(pane.verticalScrollBar()->maximum(), 0);
+    for (int height = 60; height < 600; height += 7)
+        EXPECT_EQ(lineCounts(height), tall) << height;
+    (void)lineCounts(60);
+    EXPECT_GT(pane.verticalScrollBar()->maximum(), 0);
+}
+
+TEST(LinesOnScreen, haveNoScrollBarToSeeWhileAllAreShown) {
+    Pane pane("one line");
+    const auto isBlank = [&] {
+        const QImage image = pane.verticalScrollBar()->grab().toImage();
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) != image.pixel(0, 0)) return false;
+        return true;
+    };
+    EXPECT_TRUE(isBlank());
+    pane.replaceText(AttributedText(lines(100), Colour::text));
+    EXPECT_FALSE(isBlank());
+    EXPECT_EQ(pane.verticalScrollBar()->width(), PaneScrollBar::barWidth);
 }
 
 TEST(LinesOnScreen, keepRightWhereAParagraphBeginsRightToLeft) {
     const Pane pane(
         "\xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7 abc\nabc \xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7");
     const QTextLine rightToLeft = pane.document()->begin().layout()->lineAt(0);
-    EXPECT_NEAR(rightToLeft.naturalTextRect().right(), pane.viewport()->width() - 20, 1);
+    EXPECT_NEAR(rightToLeft.naturalTextRect().right(), pane.width() - 20, 1);
     const QTextLine leftToRight = pane.document()->begin().next().layout()->lineAt(0);
     EXPECT_EQ(leftToRight.naturalTextRect().left(), 22);
 }
