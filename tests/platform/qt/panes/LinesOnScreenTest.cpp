@@ -223,15 +223,60 @@ TEST(LinesOnScreen, areRepaintedWholeWhenTheyChange) {
     EXPECT_TRUE(watch.painted.contains(pane.caretAt(1).adjusted(-8, 0, 0, 0)));
 }
 
-TEST(LinesOnScreen, keepTheirSizeUnderAWheelWithCtrl) {
+TEST(LinesOnScreen, growUnderAWheelWithCtrlStepByStep) {
     OutputTextEdit pane;
     pane.resize(200, 200);
     pane.show();
     const int before = pane.font().pointSize();
-    QWheelEvent wheel({50, 50}, pane.mapToGlobal(QPointF(50, 50)), {}, {0, 120}, Qt::NoButton,
-                      Qt::ControlModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(pane.viewport(), &wheel);
-    EXPECT_EQ(pane.font().pointSize(), before);
+    int told = 0;
+    QObject::connect(&pane, &PaneTextEdit::zoomed, [&] { ++told; });
+    const auto turn = [&](int eighths) {
+        QWheelEvent wheel({50, 50}, pane.mapToGlobal(QPointF(50, 50)), {}, {0, eighths}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(pane.viewport(), &wheel);
+        return pane.font().pointSize() - before;
+    };
+    EXPECT_EQ(turn(120), 1);
+    EXPECT_EQ(turn(60), 1);
+    EXPECT_EQ(turn(60), 2);
+    EXPECT_EQ(turn(-240), 0);
+    EXPECT_EQ(told, 3);
+}
+
+TEST(LinesOnScreen, keepTheirPitchAtEverySize) {
+    Pane pane("one\ntwo\nthree");
+    for (const int points : {-4, 6, 20}) {
+        pane.setZoom(points);
+        (void)pane.grab();
+        EXPECT_EQ(pane.zoom(), points);
+        EXPECT_NEAR(pane.topOf(2) - pane.topOf(1), 1.45 * pane.em(), 0.01);
+    }
+    pane.setZoom(-100);
+    EXPECT_EQ(pane.font().pointSize(), 6);
+    pane.setZoom(100);
+    EXPECT_EQ(pane.font().pointSize(), 72);
+}
+
+TEST(LinesOnScreen, runOnToTheRightWhenTheyAreNotWrapped) {
+    Pane pane(wrapped + " " + wrapped + "\n\xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7 abc");
+    EXPECT_GT(pane.document()->begin().layout()->lineCount(), 1);
+    pane.setWrapsLines(false);
+    (void)pane.grab();
+    EXPECT_EQ(pane.document()->begin().layout()->lineCount(), 1);
+    EXPECT_EQ(pane.document()->lastBlock().layout()->lineAt(0).naturalTextRect().left(), 22);
+    QScrollBar& bar = *pane.horizontalScrollBar();
+    ASSERT_TRUE(bar.isVisible());
+    pane.moveCursor(QTextCursor::Start);
+    pane.moveCursor(QTextCursor::EndOfLine);
+    EXPECT_TRUE(pane.viewport()->rect().contains(pane.cursorRect().center()));
+    EXPECT_GT(bar.value(), 0);
+    bar.setValue(bar.maximum());
+    EXPECT_NEAR(pane.cursorRect().center().x(), pane.viewport()->width() - 10, 2);
+    pane.setWrapsLines(true);
+    (void)pane.grab();
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_GT(pane.document()->begin().layout()->lineCount(), 1);
 }
 
 TEST(LinesOnScreen, takeOneSecondForNoLineOfAMegabyte) {
