@@ -65,6 +65,11 @@ function(lexiform_tests name)
   target_compile_definitions(${name}-tests PRIVATE
     LEXIFORM_MODELS_DIR="${PROJECT_SOURCE_DIR}/resources/models"
     LEXIFORM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  gtest_discover_tests(${name}-tests TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
-    PROPERTIES LABELS unit TIMEOUT 300)
+  lexiform_test_program(${name})
+endfunction()
+
+# One process for all tests of a program: starting one for each takes longer than the tests.
+function(lexiform_test_program name)
+  add_test(NAME ${name} COMMAND ${name}-tests --gtest_brief=1)
+  set_tests_properties(${name} PROPERTIES LABELS unit TIMEOUT 900)
 endfunction()

@@ -30,6 +30,14 @@ struct PropertyList {
     using Value =
         std::variant<bool, std::int64_t, double, PropertyDate, std::string, PropertyData, Array, Dictionary>;
 
+    // Not inline: GCC 12 takes the values that a variant does not hold for uninitialised ones.
+    PropertyList(Value given);
+    PropertyList(const PropertyList& other);
+    PropertyList(PropertyList&& other) noexcept;
+    PropertyList& operator=(const PropertyList& other);
+    PropertyList& operator=(PropertyList&& other) noexcept;
+    ~PropertyList();
+
     Value value;
 
     bool operator==(const PropertyList&) const = default;

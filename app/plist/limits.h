@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 
 namespace lexiform::plist {
@@ -13,9 +14,19 @@ inline constexpr std::size_t mostObjects = 1'000'000;
 /// The most bytes that the strings and data of a list may unpack to.
 inline constexpr std::size_t mostContentBytes = std::size_t{64} << 20U;
 
+/// The most values, and the most bytes of strings and data, that each byte of a list may stand for where
+/// values are shared, so that a small list costs little.
+inline constexpr std::size_t mostPerByte = 256;
+
 /// What a list that is being read may still hold.
 class Budget {
 public:
+    Budget() = default;
+    /// For a list of so many bytes whose values can be shared.
+    explicit Budget(std::size_t listBytes)
+        : objects_(std::min(mostObjects, mostPerByte * listBytes)),
+          bytes_(std::min(mostContentBytes, mostPerByte * listBytes)) {}
+
     /// Takes so many values or bytes; false when there are not so many left.
     [[nodiscard]] bool takeObjects(std::size_t count) { return take(count, objects_); }
     [[nodiscard]] bool takeBytes(std::size_t count) { return take(count, bytes_); }

@@ -5,6 +5,7 @@
 #include "tools/train/lexicon/DictionaryReaders.h"
 #include "tools/train/lexicon/NameLists.h"
 #include "tools/train/lexicon/TurkishForms.h"
+#include "tools/train/lexicon/readTurkishForms.h"
 
 #include <algorithm>
 #include <limits>
@@ -73,7 +74,15 @@ private:
         if (file.empty()) return std::nullopt;
         if (ReadFault fault = readSound(file, tagged_)) return fault;
         builder_.addTaggedText(tagged_);
+        if (language_ == "ru") addAllForms(tagged_);
         return std::nullopt;
+    }
+
+    // A text of many hands and many forms, the nearest thing to a dictionary that the language has.
+    void addAllForms(const Corpus& corpus) {
+        for (const GoldSentence& sentence : corpus)
+            for (const GoldToken& token : sentence.tokens)
+                builder_.addCommonWord(token.form);
     }
 
     ReadFault addDictionaries() {
@@ -103,9 +112,7 @@ private:
     // The dictionary has roots alone, so what is met in texts is analysed by them.
     ReadFault addTurkishForms() {
         TurkishForms forms;
-        const TakeForm addRoot = [&](std::string_view root, char pos) { forms.addRoot(root, pos); };
-        for (const char* file : {"master-dictionary.dict", "non-tdk.dict"})
-            if (ReadFault fault = readTurkishRoots(lists_ / file, addRoot)) return fault;
+        if (ReadFault fault = readTurkishForms(lists_, forms)) return fault;
         const auto add = [&](const std::string& form) {
             for (const char pos : forms.classesOf(form))
                 builder_.addDictionaryForm(form, pos);

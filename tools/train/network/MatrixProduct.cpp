@@ -1,7 +1,11 @@
 #include "tools/train/network/MatrixProduct.h"
 
-#include "tools/train/network/MatrixProductBlocks.inc"
 #include "tools/train/network/MatrixProductTargets.h"
+
+namespace {
+constexpr std::size_t productLanes = 4;
+}
+#include "tools/train/network/MatrixProductBlocks.inc"
 
 namespace lexiform::train {
 
@@ -14,7 +18,7 @@ Product fastestProduct() {
     if (__builtin_cpu_supports("avx512bw") != 0) return addProductAvx512;
     if (__builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("fma") != 0) return addProductAvx2;
 #endif
-    return addProductInBlocks<1>;
+    return addProductInBlocks<3, 2>;
 }
 
 } // namespace

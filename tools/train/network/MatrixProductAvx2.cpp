@@ -3,13 +3,16 @@
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
 
 #pragma GCC target("avx2,fma")
+namespace {
+constexpr std::size_t productLanes = 8;
+}
 #include "tools/train/network/MatrixProductBlocks.inc"
 
 namespace lexiform::train {
 
 void addProductAvx2(Factor left, const float* right, float* sum, std::size_t rows, std::size_t inner,
                     std::size_t columns) {
-    addProductInBlocks<3>(left, right, sum, rows, inner, columns);
+    addProductInBlocks<6, 2>(left, right, sum, rows, inner, columns);
 }
 
 } // namespace lexiform::train

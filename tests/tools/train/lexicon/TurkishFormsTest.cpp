@@ -1,13 +1,9 @@
 #include "tools/train/lexicon/TurkishForms.h"
-#include "tests/tools/train/GoldWords.h"
-#include "tools/train/lexicon/TurkishSilver.h"
 
 #include <gtest/gtest.h>
 
 namespace lexiform::train {
 namespace {
-
-using enum linguistics::UniversalPos;
 
 TurkishForms forms() {
     TurkishForms forms;
@@ -36,15 +32,6 @@ TEST(TurkishForms, knowWhatSuffixesMakeOfANoun) {
 TEST(TurkishForms, knowNothingOfOtherWords) {
     EXPECT_EQ(forms().classesOf("pencere"), "");
     EXPECT_EQ(forms().classesOf(""), "");
-}
-
-TEST(TurkishSilver, correctsWhatDictionaryAndNamesTell) {
-    GoldToken ankara = word("Ankara", NOUN, "Ankara");
-    ankara.name = NameLabel::beginsPlace;
-    Corpus corpus = {sentence({ankara, word("kitaplar", VERB, ""), word("giden", NOUN, ""),
-                               word("büyük", NOUN, ""), word("pencere", VERB, ""), word(",", PUNCT, "")})};
-    correctTurkishTags(forms(), corpus);
-    EXPECT_EQ(tagsOf(corpus[0]), "PROPN NOUN VERB ADJ VERB PUNCT");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "tools/train/sources/languages/Recipes.h"
 
 #include "linguistics/text/Utf8.h"
+#include "tools/train/sources/languages/RussianCompounds.h"
 
 namespace lexiform::train::recipes {
 
@@ -118,8 +119,13 @@ Recipe russian() {
          .tagWeight = 1,
          .lemmaWeight = 1,
          .hasSpacing = true,
+         .preparations = {russianCompounds()},
          .rules = gsd()},
-        {.file = "ru_gsd-train.conll2018.conllu", .tagWeight = 1, .lemmaWeight = 1, .rules = gsd()},
+        {.file = "ru_gsd-train.conll2018.conllu",
+         .tagWeight = 1,
+         .lemmaWeight = 1,
+         .preparations = {russianCompounds()},
+         .rules = gsd()},
         {.file = "names/factrueval-train.tsv", .nameWeight = 1, .rules = commonNounsOutsideNames()},
     };
     recipe.development = {"ru_gsd-dev.conllu", "ru_poetry-dev.conllu", "ru_taiga-dev.conllu"};

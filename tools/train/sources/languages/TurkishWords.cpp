@@ -166,7 +166,7 @@ private:
         const bool nominal = *token.pos == NOUN || *token.pos == ADJ || *token.pos == ADV;
         if (nominal && lemmas_.isVerbLemma(*token.lemma) && hasVerbalEnding(form, *token.lemma))
             token.pos = VERB;
-        if ((nominal || *token.pos == PROPN) && !token.lemma->ends_with("ki"))
+        if (nominal && !token.lemma->ends_with("ki"))
             if (const std::size_t size = endingOf(form, {"kiler", "ki", "kü"}); size != 0)
                 return addSplit(std::move(token), size, PART, "ki", std::nullopt);
         keep(std::move(token));
@@ -190,7 +190,7 @@ private:
     }
 
     static bool isTensed(const std::string& stem) {
-        static const auto tenses = allVariantsOf("mis yor acak yorlar mislar acaklar arlar irlar mali makda");
+        static const auto tenses = allVariantsOf("mis acak yorlar mislar acaklar arlar irlar");
         return endingOf(stem, tenses) != 0;
     }
 

@@ -1,8 +1,10 @@
-#include "tools/train/lexicon/TurkishSilver.h"
+#include "tools/train/silver/TurkishSilver.h"
 
 #include "linguistics/tagging/WordTraits.h"
 #include "linguistics/text/Characters.h"
 #include "linguistics/text/Utf8.h"
+#include "tools/train/lexicon/readTurkishForms.h"
+#include "tools/train/silver/ChainLabeller.h"
 
 #include <algorithm>
 #include <array>
@@ -21,6 +23,13 @@ bool isOpenClass(UniversalPos pos) {
 
 bool isCapitalised(const std::string& form) {
     return linguistics::isUpperCase(linguistics::codePointAt(form, 0).value);
+}
+
+// Texts of the kind that the tagger will see, if by a weaker hand.
+constexpr float silverWeight = 0.7F;
+
+bool hasNamesAlone(const Source& source) {
+    return source.nameWeight > 0 && source.tagWeight <= 0;
 }
 
 UniversalPos corrected(UniversalPos pos, const std::string& classes) {
@@ -44,6 +53,20 @@ void correctTurkishTags(const TurkishForms& forms, Corpus& tagged) {
             const std::string classes = forms.classesOf(linguistics::normalForm(token.form));
             if (!classes.empty()) token.pos = corrected(*token.pos, classes);
         }
+}
+
+std::optional<std::string> addTurkishSilver(LanguageSources& sources, const Lexicon& lexicon,
+                                            const std::filesystem::path& corpora, std::ostream& log) {
+    TurkishForms forms;
+    if (ReadFault fault = readTurkishForms(corpora / "tr" / "lexicon", forms)) return fault;
+    const ChainLabeller labeller(sources, lexicon, log);
+    for (Source& source : sources.training) {
+        if (!hasNamesAlone(source)) continue;
+        labeller.label(source.corpus);
+        correctTurkishTags(forms, source.corpus);
+        source.tagWeight = silverWeight;
+    }
+    return std::nullopt;
 }
 
 } // namespace lexiform::train
