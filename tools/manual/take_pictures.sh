@@ -63,8 +63,9 @@ take_language() { start letters.txt; keys ctrl+shift+r; view Lan; shot language;
 take_script() { start letters.txt; keys ctrl+shift+r; view S; shot script; stop; }
 take_lemmas() { start welcome.txt; keys ctrl+shift+r; view Lem; shot lemmas; stop; }
 take_list() { start welcome.txt; keys ctrl+l; shot list; stop; }
+take_find() { start welcome.txt; keys ctrl+f; xdotool type --delay 60 star; settle; shot find; stop; }
 take_dark() { GTK_THEME=Adwaita:dark QT_QPA_PLATFORMTHEME=gtk3 start letters.txt; shot dark; stop; }
 
-[ $# -gt 0 ] || set -- window language script lemmas list dark
+[ $# -gt 0 ] || set -- window language script lemmas list find dark
 for name in "$@"; do "take_$name"; done
 ls -l "$pictures"
