@@ -112,8 +112,12 @@ def wait_for(condition, seconds):
 
 
 def press(*keys):
-    subprocess.run(["xdotool", "search", "--name", "^Lexiform$", "windowfocus", "--sync", "key", *keys],
-                   check=True, capture_output=True)
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Lexiform$"],
+                           check=True, capture_output=True, text=True).stdout.split()
+    # There is no window manager that would give the box the keyboard.
+    subprocess.run(["xdotool", "windowfocus", found[-1]], check=True, capture_output=True)
+    time.sleep(0.3)
+    subprocess.run(["xdotool", "key", *keys], check=True, capture_output=True)
 
 
 def alerts_of(server, first_wait):
