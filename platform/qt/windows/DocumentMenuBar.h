@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/windows/EditMenu.h"
+#include "platform/qt/windows/PaneCommands.h"
 #include "platform/qt/windows/TextActions.h"
 #include "platform/qt/windows/WindowServices.h"
 
@@ -13,7 +15,10 @@ class DocumentMenuBar : public QMenuBar {
     Q_OBJECT
 
 public:
-    DocumentMenuBar(const TextActions& actions, const WindowServices& services, QWidget* window);
+    DocumentMenuBar(const TextActions& actions, const PaneCommands& panes, const WindowServices& services,
+                    QWidget* window);
+
+    [[nodiscard]] EditMenu* editMenu() const { return editMenu_; }
 
 signals:
     void newRequested();
@@ -22,8 +27,10 @@ signals:
 private:
     void addFileMenu();
     void addTextMenu(const TextActions& actions);
-    void addViewMenu(const WindowServices& services);
+    void addViewMenu(const PaneCommands& panes, const WindowServices& services);
     void addHelpMenu();
+
+    EditMenu* editMenu_;
 };
 
 } // namespace lexiform::qt

@@ -4,6 +4,8 @@
 #include "platform/qt/windows/ControlOutlets.h"
 #include "platform/qt/windows/DocumentPanes.h"
 #include "platform/qt/windows/DocumentToolBar.h"
+#include "platform/qt/windows/FindBar.h"
+#include "platform/qt/windows/PaneCommands.h"
 #include "platform/qt/windows/StatusLine.h"
 #include "platform/qt/windows/TextActions.h"
 #include "platform/qt/windows/WindowServices.h"
@@ -31,6 +33,7 @@ public:
     [[nodiscard]] DocumentPanes* panes() const { return panes_; }
     [[nodiscard]] DocumentToolBar* toolBar() const { return toolBar_; }
     [[nodiscard]] StatusLine* statusLine() const { return statusLine_; }
+    [[nodiscard]] FindBar* findBar() const { return findBar_; }
 
 signals:
     void newRequested();
@@ -61,6 +64,8 @@ private:
     DocumentToolBar* toolBar_;
     BusyLine* busyLine_;
     DocumentPanes* panes_;
+    FindBar* findBar_;
+    PaneCommands paneCommands_;
     StatusLine* statusLine_;
     ControlOutlets outlets_;
     QString displayName_;
