@@ -35,5 +35,5 @@ else()
       ${PROJECT_SOURCE_DIR}/resources/icons/lexiform.svg
     COMMENT "Making the manual" VERBATIM)
   add_custom_target(manual ALL DEPENDS ${LEXIFORM_MANUAL})
-  install(FILES ${LEXIFORM_MANUAL} DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform OPTIONAL)
+  install(FILES ${LEXIFORM_MANUAL} DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform COMPONENT application OPTIONAL)
 endif()
