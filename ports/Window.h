@@ -20,6 +20,7 @@ public:
     virtual void setDelegate(std::weak_ptr<WindowDelegate> delegate) = 0;
     /// The title as it is shown; empty for a window without one.
     [[nodiscard]] virtual std::string title() const = 0;
+    virtual void setTitle(const std::string& title) = 0;
 };
 
 } // namespace lexiform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ports/ApplicationDelegateBase.h"
 #include "ports/ViewControllerBase.h"
 
 #include <memory>
@@ -17,6 +18,8 @@ class WindowController : public SceneController {
 public:
     /// Null for a window whose content has no controller.
     [[nodiscard]] virtual std::shared_ptr<ViewControllerBase> contentViewController() const = 0;
+    /// Brings the window on screen on behalf of `sender`, which may be null.
+    virtual void showWindow(const ActionSender* sender) = 0;
 };
 
 } // namespace lexiform

@@ -19,7 +19,7 @@ LAYERS = {
     "app": (("document", "analysis", "ports", "base"), ()),
     "platform/linguistics": (("linguistics", "analysis/tagger", "base"), ("unicode/",)),
     "platform/qt": (
-        ("document", "analysis", "analysis/tagger", "ports", "platform/linguistics", "linguistics", "base"),
+        ("app", "document", "analysis", "analysis/tagger", "ports", "platform/linguistics", "linguistics", "base"),
         ("Q", "unicode/"),
     ),
     "tools": (
@@ -58,6 +58,7 @@ INSIDE = {
         "document/docx", "document/epub",
     ),
     "app/plist": (),
+    "app/windows": (),
     "tools/lexiform-cli": (),
     "tools/train/file": (),
     "tools/train/corpora": (),

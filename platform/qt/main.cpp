@@ -8,6 +8,10 @@
 #include "platform/qt/documents/DocumentController.h"
 #include "platform/qt/documents/SceneStoryboard.h"
 #include "platform/qt/documents/commandLine.h"
+#include "platform/qt/makerAddresses.h"
+#include "platform/qt/shell/QtBundle.h"
+#include "platform/qt/shell/Shell.h"
+#include "platform/qt/sidewindows/sideScenes.h"
 #include "platform/qt/theme/ApplicationIcon.h"
 #include "platform/qt/theme/Theme.h"
 #include "platform/qt/windows/StateStore.h"
@@ -52,6 +56,18 @@ void tellOfMissingModel(const linguistics::ModelStore& models) {
     box->open();
 }
 
+void addScenes(qt::SceneStoryboard& storyboard, const TaggerFactory& taggers,
+               const std::shared_ptr<Bundle>& bundle, const qt::WindowServices& services) {
+    storyboard.addScene(std::string(qt::documentSceneIdentifier),
+                        [=] { return qt::makeDocumentScene(taggers, services); });
+    storyboard.addScene(std::string(qt::colourSceneIdentifier),
+                        [=] { return qt::makeColourScene(services); });
+    storyboard.addScene(std::string(qt::paletteSceneIdentifier),
+                        [=] { return qt::makePaletteScene(services.analysis.defaults, services); });
+    storyboard.addScene(std::string(qt::helpSceneIdentifier),
+                        [=] { return qt::makeHelpScene(bundle, services); });
+}
+
 int run(QApplication& application, const QStringList& files) {
     QApplication::setDesktopFileName(QStringLiteral("lexiform"));
     QApplication::setWindowIcon(qt::applicationIcon());
@@ -63,15 +79,21 @@ int run(QApplication& application, const QStringList& files) {
     const auto models = std::make_shared<const linguistics::ModelStore>(modelFolders());
     const TaggerFactory taggers = linguisticTaggers(std::make_shared<linguistics::Engine>(models));
     const auto storyboard = std::make_shared<qt::SceneStoryboard>();
-    storyboard->addScene(std::string(qt::documentSceneIdentifier),
-                         [taggers, services = qt::WindowServices{theme, store, windows, analysisServices()}] {
-                             return qt::makeDocumentScene(taggers, services);
-                         });
+    const auto bundle =
+        std::make_shared<qt::QtBundle>(QApplication::applicationVersion(), qt::resourceFolder());
+    const auto actions = qt::makeApplicationActions(&application);
+    const qt::WindowServices services{theme, store, windows, analysisServices(), &actions};
+    addScenes(*storyboard, taggers, bundle, services);
 
     qt::DocumentController documents(storyboard, qt::showOpenFailures, chooseFiles);
     if (files.isEmpty() || !documents.open(files)) documents.newDocument();
     tellOfMissingModel(*models);
-    return QApplication::exec();
+
+    qt::Shell shell({services.analysis.defaults, bundle, storyboard, qt::makerAddresses()}, actions);
+    shell.delegate().applicationDidFinishLaunching({});
+    const int status = QApplication::exec();
+    shell.delegate().applicationWillTerminate({});
+    return status;
 }
 
 } // namespace

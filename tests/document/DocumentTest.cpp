@@ -19,6 +19,7 @@ public:
     [[nodiscard]] std::shared_ptr<ViewControllerBase> contentViewController() const override {
         return content_;
     }
+    void showWindow(const ActionSender* /*sender*/) override {}
 
 private:
     std::shared_ptr<ViewControllerBase> content_;

@@ -78,6 +78,7 @@ class PlainWindow : public Window {
 public:
     void setDelegate(std::weak_ptr<WindowDelegate> newDelegate) override { delegate = newDelegate; }
     [[nodiscard]] std::string title() const override { return ownTitle; }
+    void setTitle(const std::string& title) override { ownTitle = title; }
 
     std::weak_ptr<WindowDelegate> delegate;
     std::string ownTitle = "harbour.txt";
@@ -101,8 +102,24 @@ public:
     void setString(std::string_view value, std::string_view key) override {
         strings.insert_or_assign(std::string(key), std::string(value));
     }
+    [[nodiscard]] bool boolForKey(std::string_view key) const override {
+        const auto entry = bools.find(key);
+        return entry != bools.end() && entry->second;
+    }
+    void setBool(bool value, std::string_view key) override {
+        bools.insert_or_assign(std::string(key), value);
+    }
+    [[nodiscard]] double doubleForKey(std::string_view key) const override {
+        const auto entry = doubles.find(key);
+        return entry == doubles.end() ? 0 : entry->second;
+    }
+    void setDouble(double value, std::string_view key) override {
+        doubles.insert_or_assign(std::string(key), value);
+    }
 
     std::map<std::string, std::string, std::less<>> strings;
+    std::map<std::string, bool, std::less<>> bools;
+    std::map<std::string, double, std::less<>> doubles;
 };
 
 /// A save panel that a test closes.

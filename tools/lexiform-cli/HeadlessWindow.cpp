@@ -46,12 +46,17 @@ public:
         return std::nullopt;
     }
     void setString(std::string_view /*value*/, std::string_view /*key*/) override {}
+    [[nodiscard]] bool boolForKey(std::string_view /*key*/) const override { return false; }
+    void setBool(bool /*value*/, std::string_view /*key*/) override {}
+    [[nodiscard]] double doubleForKey(std::string_view /*key*/) const override { return 0; }
+    void setDouble(double /*value*/, std::string_view /*key*/) override {}
 };
 
 class NamelessWindow : public Window, public View {
 public:
     void setDelegate(std::weak_ptr<WindowDelegate> /*delegate*/) override {}
     [[nodiscard]] std::string title() const override { return ""; }
+    void setTitle(const std::string& /*title*/) override {}
     [[nodiscard]] Window* window() override { return this; }
 };
 

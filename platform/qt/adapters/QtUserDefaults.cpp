@@ -13,14 +13,39 @@ QString fromUtf8(std::string_view text) {
 QtUserDefaults::QtUserDefaults(const QString& path) : settings_(path, QSettings::IniFormat) {}
 
 std::optional<std::string> QtUserDefaults::stringForKey(std::string_view key) const {
-    const QString name = fromUtf8(key);
-    settings_.sync();
-    if (!settings_.contains(name)) return std::nullopt;
-    return settings_.value(name).toString().toStdString();
+    const QVariant value = read(key);
+    if (!value.isValid()) return std::nullopt;
+    return value.toString().toStdString();
 }
 
 void QtUserDefaults::setString(std::string_view value, std::string_view key) {
-    settings_.setValue(fromUtf8(key), fromUtf8(value));
+    write(fromUtf8(value), key);
+}
+
+bool QtUserDefaults::boolForKey(std::string_view key) const {
+    return read(key).toBool();
+}
+
+void QtUserDefaults::setBool(bool value, std::string_view key) {
+    write(value, key);
+}
+
+double QtUserDefaults::doubleForKey(std::string_view key) const {
+    return read(key).toDouble();
+}
+
+// The file gets the fewest digits that give the same number back.
+void QtUserDefaults::setDouble(double value, std::string_view key) {
+    write(value, key);
+}
+
+QVariant QtUserDefaults::read(std::string_view key) const {
+    settings_.sync();
+    return settings_.value(fromUtf8(key));
+}
+
+void QtUserDefaults::write(const QVariant& value, std::string_view key) {
+    settings_.setValue(fromUtf8(key), value);
     settings_.sync();
 }
 

@@ -16,4 +16,11 @@ std::shared_ptr<ViewControllerBase> QtWindowController::contentViewController() 
     return content_;
 }
 
+void QtWindowController::showWindow(const ActionSender* /*sender*/) {
+    if (!window_) return;
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
 } // namespace lexiform::qt

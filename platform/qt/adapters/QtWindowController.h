@@ -19,6 +19,7 @@ public:
     QtWindowController& operator=(const QtWindowController&) = delete;
 
     [[nodiscard]] std::shared_ptr<ViewControllerBase> contentViewController() const override;
+    void showWindow(const ActionSender* sender) override;
     /// Null once the window is gone.
     [[nodiscard]] QWidget* window() const { return window_; }
 

@@ -23,8 +23,9 @@ DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const PaneCommands&
     addMenu(editMenu_);
     addTextMenu(actions);
     addViewMenu(panes, services);
+    addToolsMenu(services);
     addMenu(new WindowMenu(services.windows, window));
-    addHelpMenu();
+    addHelpMenu(services);
 }
 
 void DocumentMenuBar::addFileMenu() {
@@ -53,8 +54,17 @@ void DocumentMenuBar::addViewMenu(const PaneCommands& panes, const WindowService
     menu->addAction(new FullScreenAction(*window()));
 }
 
-void DocumentMenuBar::addHelpMenu() {
-    addMenu(tr("&Help"))->addAction(tr("&About Lexiform"), this, [this] { showAbout(*window()); });
+void DocumentMenuBar::addToolsMenu(const WindowServices& services) {
+    if (services.application != nullptr) addMenu(tr("T&ools"))->addActions(services.application->inTools());
+}
+
+void DocumentMenuBar::addHelpMenu(const WindowServices& services) {
+    QMenu* menu = addMenu(tr("&Help"));
+    if (services.application != nullptr) {
+        menu->addActions(services.application->inHelp());
+        menu->addSeparator();
+    }
+    menu->addAction(tr("&About Lexiform"), this, [this] { showAbout(*window()); });
 }
 
 } // namespace lexiform::qt

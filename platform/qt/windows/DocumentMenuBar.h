@@ -28,7 +28,8 @@ private:
     void addFileMenu();
     void addTextMenu(const TextActions& actions);
     void addViewMenu(const PaneCommands& panes, const WindowServices& services);
-    void addHelpMenu();
+    void addToolsMenu(const WindowServices& services);
+    void addHelpMenu(const WindowServices& services);
 
     EditMenu* editMenu_;
 };

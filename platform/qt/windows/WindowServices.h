@@ -2,6 +2,7 @@
 
 #include "analysis/ViewController.h"
 #include "platform/qt/theme/Theme.h"
+#include "platform/qt/windows/ApplicationActions.h"
 #include "platform/qt/windows/StateStore.h"
 #include "platform/qt/windows/WindowList.h"
 
@@ -13,6 +14,8 @@ struct WindowServices {
     StateStore& store;
     WindowList& windows;
     AnalysisServices analysis;
+    /// Null for windows without the application's own commands.
+    const ApplicationActions* application = nullptr;
 };
 
 } // namespace lexiform::qt

@@ -58,5 +58,21 @@ TEST_F(UserDefaultsFile, keepsWhatAnotherProgramStoredUnderAnotherKey) {
     EXPECT_EQ(own.stringForKey("windowTitle"), "title");
 }
 
+TEST_F(UserDefaultsFile, keepsTruthAndNumbersExactlyFromOneRunToTheNext) {
+    for (const bool value : {true, false}) {
+        QtUserDefaults(path()).setBool(value, "noUpdateCheck");
+        EXPECT_EQ(QtUserDefaults(path()).boolForKey("noUpdateCheck"), value);
+    }
+    for (const double value : {43200.0, 0.1, 817'412'345.678, 1e300, -7.5}) {
+        QtUserDefaults(path()).setDouble(value, "updateCheckInt");
+        EXPECT_EQ(QtUserDefaults(path()).doubleForKey("updateCheckInt"), value);
+    }
+}
+
+TEST_F(UserDefaultsFile, readsAnAbsentValueAsFalseAndZero) {
+    EXPECT_FALSE(QtUserDefaults(path()).boolForKey("noUpdateCheck"));
+    EXPECT_EQ(QtUserDefaults(path()).doubleForKey("updateCheckInt"), 0.0);
+}
+
 } // namespace
 } // namespace lexiform::qt

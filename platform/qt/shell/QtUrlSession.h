@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ports/UrlSession.h"
+
+#include <QNetworkAccessManager>
+#include <QThread>
+
+namespace lexiform::qt {
+
+/// Fetches over HTTPS on a thread of its own, with Qt's defaults: redirects to addresses that are no less
+/// safe are followed, and the user's proxies are used.
+class QtUrlSession : public UrlSession {
+public:
+    QtUrlSession();
+    ~QtUrlSession() override;
+    QtUrlSession(const QtUrlSession&) = delete;
+    QtUrlSession& operator=(const QtUrlSession&) = delete;
+
+    [[nodiscard]] std::unique_ptr<DataTask> dataTask(const WebAddress& address,
+                                                     Completion completion) override;
+
+    /// Ends what runs without an answer, and the thread. Called again it does nothing.
+    void stop();
+
+private:
+    QThread thread_;
+    QNetworkAccessManager* manager_; // lives on the thread and goes with it
+};
+
+} // namespace lexiform::qt

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "base/Colour.h"
+#include "platform/qt/theme/Appearance.h"
+
+#include <QWidget>
+
+namespace lexiform::qt {
+
+/// A patch of a colour as the window's own appearance shows it.
+class ColourSwatch : public QWidget {
+    Q_OBJECT
+
+public:
+    ColourSwatch(Colour colour, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Colour colour_;
+};
+
+/// Two letters in a colour on the pane of one appearance, whichever the window has.
+class ColourChip : public QWidget {
+    Q_OBJECT
+
+public:
+    ColourChip(Colour colour, Appearance appearance, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Colour colour_;
+    Appearance appearance_;
+};
+
+} // namespace lexiform::qt

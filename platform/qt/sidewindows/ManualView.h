@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPdfDocument>
+#include <QPdfSearchModel>
+#include <QPdfView>
+#include <QToolBar>
+
+namespace lexiform::qt {
+
+/// The manual: a bar with page, search and zoom over its pages.
+class ManualView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ManualView(QWidget* parent = nullptr);
+
+    /// Null for none. The document must outlive the view or be taken out of it.
+    void setDocument(QPdfDocument* document);
+    /// Whether pages are as wide as the view.
+    void setFitted(bool fitted);
+    [[nodiscard]] QPdfView* pages() const { return pages_; }
+
+    /// Goes to the next place with what is searched, from the last one to the first; false without any.
+    bool findNext();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void dressSurround();
+    [[nodiscard]] QToolBar* makeBar();
+    QAction* addCommand(QToolBar* bar, const QString& title, const QString& toolTip,
+                        const QList<QKeySequence>& keys);
+    void addKeys();
+    void goToPage(int page);
+    void zoomBy(qreal factor);
+    void showPlace();
+
+    QPdfView* pages_;
+    QPdfSearchModel* search_;
+    QLabel* page_;
+    QLabel* zoom_;
+    QLineEdit* wanted_;
+    QAction* back_ = nullptr;
+    QAction* forward_ = nullptr;
+    int match_ = -1;
+};
+
+} // namespace lexiform::qt

@@ -1,0 +1,36 @@
+#include "platform/qt/windows/ApplicationActions.h"
+
+#include <QCoreApplication>
+
+namespace lexiform::qt {
+
+namespace {
+
+QAction* makeAction(QObject* owner, const char* title) {
+    return new QAction(QCoreApplication::translate("ApplicationActions", title), owner);
+}
+
+// Not translated: it is found by this title.
+QAction* makeUpdateState(QObject* owner) {
+    auto* action = new QAction(QStringLiteral("Update not checked"), owner);
+    action->setCheckable(true);
+    action->setEnabled(false);
+    return action;
+}
+
+} // namespace
+
+ApplicationActions makeApplicationActions(QObject* owner) {
+    const ApplicationActions actions{
+        .openColours = makeAction(owner, "&Colours"),
+        .openPalette = makeAction(owner, "&Palette"),
+        .openHelp = makeAction(owner, "Lexiform &Help"),
+        .updateState = makeUpdateState(owner),
+        .openUpdates = makeAction(owner, "Application &Updates"),
+        .openSupport = makeAction(owner, "&Support"),
+    };
+    actions.openHelp->setShortcut(QKeySequence::HelpContents);
+    return actions;
+}
+
+} // namespace lexiform::qt
