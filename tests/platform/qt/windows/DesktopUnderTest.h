@@ -45,7 +45,7 @@ public:
 
     std::shared_ptr<SceneController> makeScene() {
         return makeDocumentScene(makeTagger ? makeTagger : scriptedTaggers(script, tagger),
-                                 {theme, store, windows, analysis});
+                                 {theme, store, windows, analysis, application});
     }
 
     [[nodiscard]] static DocumentWindow& windowOf(const Document& document) {
@@ -78,6 +78,8 @@ public:
     /// Every save panel that was opened and is not gone.
     std::vector<std::weak_ptr<QtSavePanel>> panels;
     AnalysisServices analysis{defaults, [this] { return makePanel(); }, std::make_shared<QtFileWriter>()};
+    /// The commands of the application, when its menus are to have them.
+    const ApplicationActions* application = nullptr;
     /// In the place of the taggers that know `script`.
     TaggerFactory makeTagger;
     std::vector<std::vector<OpenFailure>> told;
