@@ -3,6 +3,7 @@
 #include "platform/qt/windows/DocumentMenuBar.h"
 #include "platform/qt/windows/ScreenAppearance.h"
 #include "platform/qt/windows/WaitCursor.h"
+#include "platform/qt/windows/connectPanes.h"
 #include "platform/qt/windows/wordCount.h"
 
 #include <QCloseEvent>
@@ -84,6 +85,7 @@ void DocumentWindow::connectCommands() {
             item == standardTypesItem ? &DocumentWindow::showParsed : nullptr);
     });
     connect(panes_->input(), &QPlainTextEdit::textChanged, this, &DocumentWindow::showUnparsed);
+    connectPanes(*panes_, paneCommands_.find());
     connect(panes_, &PaneSplitter::arranged, this,
             [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
 }
