@@ -17,26 +17,14 @@ constexpr int barHeight = 30;
 } // namespace
 
 DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const WindowServices& services, QWidget* window)
-    : QMenuBar(window) {
+    : QMenuBar(window), fileMenu_(new FileMenu(window)) {
     setMinimumHeight(barHeight);
-    addFileMenu();
+    addMenu(fileMenu_);
     addMenu(new EditMenu(window));
     addTextMenu(actions);
     addViewMenu(services);
     addMenu(new WindowMenu(services.windows, window));
     addHelpMenu();
-}
-
-void DocumentMenuBar::addFileMenu() {
-    QMenu* menu = addMenu(tr("&File"));
-    menu->addAction(tr("&New"), QKeySequence::New, this, &DocumentMenuBar::newRequested);
-    menu->addAction(tr("&Open…"), QKeySequence::Open, this, &DocumentMenuBar::openRequested);
-    menu->addSeparator();
-    menu->addAction(tr("&Close"), Qt::CTRL | Qt::Key_W, window(), &QWidget::close);
-    // Queued: the menu closes before its window does.
-    QAction* quit = menu->addAction(tr("&Quit"));
-    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
-    connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
 void DocumentMenuBar::addTextMenu(const TextActions& actions) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/qt/windows/FileMenu.h"
 #include "platform/qt/windows/TextActions.h"
 #include "platform/qt/windows/WindowServices.h"
 
@@ -7,23 +8,21 @@
 
 namespace lexiform::qt {
 
-/// The menus of a document window. What concerns the window alone they do themselves; what concerns
-/// documents they ask for.
+/// The menus of a document window.
 class DocumentMenuBar : public QMenuBar {
     Q_OBJECT
 
 public:
     DocumentMenuBar(const TextActions& actions, const WindowServices& services, QWidget* window);
 
-signals:
-    void newRequested();
-    void openRequested();
+    [[nodiscard]] FileMenu* fileMenu() const { return fileMenu_; }
 
 private:
-    void addFileMenu();
     void addTextMenu(const TextActions& actions);
     void addViewMenu(const WindowServices& services);
     void addHelpMenu();
+
+    FileMenu* fileMenu_;
 };
 
 } // namespace lexiform::qt

@@ -4,12 +4,14 @@
 #include "platform/qt/windows/ControlOutlets.h"
 #include "platform/qt/windows/DocumentPanes.h"
 #include "platform/qt/windows/DocumentToolBar.h"
+#include "platform/qt/windows/FileMenu.h"
 #include "platform/qt/windows/StatusLine.h"
 #include "platform/qt/windows/TextActions.h"
 #include "platform/qt/windows/WindowServices.h"
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 namespace lexiform::qt {
@@ -27,14 +29,22 @@ public:
     void setDisplayName(const QString& name);
     [[nodiscard]] QString displayName() const { return displayName_; }
 
+    /// Asked before the window closes, which it does not when the answer is false.
+    void setCloseQuestion(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
+
+    /// Whether a person has changed the input pane since it was filled or last marked as saved.
+    [[nodiscard]] bool isEdited() const;
+    void markSaved();
+
+    [[nodiscard]] FileMenu* fileMenu() const { return fileMenu_; }
     [[nodiscard]] const TextActions& textActions() const { return actions_; }
     [[nodiscard]] DocumentPanes* panes() const { return panes_; }
     [[nodiscard]] DocumentToolBar* toolBar() const { return toolBar_; }
     [[nodiscard]] StatusLine* statusLine() const { return statusLine_; }
 
 signals:
-    void newRequested();
-    void openRequested();
+    /// Files were dropped on the window.
+    void filesDropped(const QStringList& paths);
     /// The window has been closed and is about to leave the screen.
     void closed();
 
@@ -62,6 +72,8 @@ private:
     BusyLine* busyLine_;
     DocumentPanes* panes_;
     StatusLine* statusLine_;
+    FileMenu* fileMenu_ = nullptr;
+    std::function<bool()> mayClose_;
     ControlOutlets outlets_;
     QString displayName_;
 };
