@@ -119,6 +119,7 @@ void DocumentController::show(const std::shared_ptr<OpenedDocument>& document, c
     DocumentWindow* window = windowOf(*document);
     if (!window) return;
     window->setDisplayName(name);
+    window->markSaved(); // setting its panes up is no edit of anybody's
     connectWindow(*document);
     connectSaving(*document);
     window->show();
