@@ -14,7 +14,7 @@ sources() {
 quick() {
   sources '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
   python3 tools/check_layers.py
-  for script in run test .ci/run tools/*.sh; do bash -n "$script"; done
+  for script in run test .ci/run tools/*.sh tools/*/*.sh; do bash -n "$script"; done
 }
 
 # In a build folder of its own: clang-tidy cannot read the headers that GCC has precompiled.

@@ -68,11 +68,12 @@ void PaneDocumentLayout::breakLines(const QTextBlock& block) const {
 
 // What a line lacks to the pitch is left free below it. Above the first block the editor leaves the
 // document margin, so that its lines start as much higher as the top margin is smaller. A paragraph that
-// begins from right to left keeps to the right.
+// begins from right to left keeps to the right, unless its lines are as long as they like.
 qreal PaneDocumentLayout::spaceLines(const QTextBlock& block) const {
     const QTextLayout& layout = *block.layout();
     qreal y = block.position() == 0 ? margins_.top() - document()->documentMargin() : 0;
-    const bool rightToLeft = block.textDirection() == Qt::RightToLeft;
+    const bool rightToLeft = block.textDirection() == Qt::RightToLeft &&
+                             document()->defaultTextOption().wrapMode() != QTextOption::NoWrap;
     for (int i = 0; i < layout.lineCount(); ++i) {
         QTextLine line = layout.lineAt(i);
         const qreal slot = std::max(pitch_, line.height());

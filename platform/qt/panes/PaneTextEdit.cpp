@@ -2,6 +2,7 @@
 
 #include "platform/qt/panes/PaneDocumentLayout.h"
 #include "platform/qt/panes/PaneFont.h"
+#include "platform/qt/panes/PaneScrollBar.h"
 #include "platform/qt/panes/TextBlocks.h"
 #include "platform/qt/panes/lineEndMarks.h"
 #include "platform/qt/theme/Appearance.h"
@@ -12,12 +13,27 @@
 #include <QStyle>
 #include <QTextBlock>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lexiform::qt {
 
+namespace {
+
+constexpr int smallestText = 6; // points
+constexpr int largestText = 72;
+
+// The scroll bar stands in the right margin, and is narrower where that is.
+int scrollBarWidth(const QMargins& margins) {
+    return std::min(PaneScrollBar::barWidth, margins.right());
+}
+
+} // namespace
+
 PaneTextEdit::PaneTextEdit(const QMargins& margins, QWidget* parent) : QPlainTextEdit(parent) {
-    installDocument(margins);
+    installDocument(margins - QMargins(0, 0, scrollBarWidth(margins), 0));
+    setVerticalScrollBar(new PaneScrollBar(scrollBarWidth(margins)));
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setFont(paneFont());
     takeSpacingFromFont();
     setFrameStyle(QFrame::NoFrame);
@@ -134,12 +150,28 @@ void PaneTextEdit::paintCaret() {
     QPainter(viewport()).fillRect(caret, surfacesOf(appearanceOf(palette())).focus);
 }
 
-// The size of the font is one for all panes: a wheel with Ctrl does not change it.
+void PaneTextEdit::setZoom(int points) {
+    const QFont plain = paneFont();
+    zoom_ = std::clamp(points, smallestText - plain.pointSize(), largestText - plain.pointSize());
+    QFont zoomed = plain;
+    zoomed.setPointSize(plain.pointSize() + zoom_);
+    setFont(zoomed);
+}
+
+void PaneTextEdit::setWrapsLines(bool wraps) {
+    setLineWrapMode(wraps ? WidgetWidth : NoWrap);
+    setHorizontalScrollBarPolicy(wraps ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+}
+
+// A fine wheel turns by less than a step at a time.
 void PaneTextEdit::wheelEvent(QWheelEvent* event) {
-    if (event->modifiers() & Qt::ControlModifier)
-        event->ignore();
-    else
-        QPlainTextEdit::wheelEvent(event);
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) return QPlainTextEdit::wheelEvent(event);
+    wheelTurn_ += event->angleDelta().y();
+    const int steps = wheelTurn_ / QWheelEvent::DefaultDeltasPerStep;
+    wheelTurn_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+    if (steps == 0) return;
+    setZoom(zoom_ + steps);
+    emit zoomed();
 }
 
 namespace {

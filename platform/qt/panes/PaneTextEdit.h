@@ -42,6 +42,19 @@ public:
     /// replaced text have.
     [[nodiscard]] LineEnd ownLineEnd() const { return ownLineEnd_; }
 
+    /// How many points the text is larger than usual; what is asked for is kept within readable sizes.
+    [[nodiscard]] int zoom() const { return zoom_; }
+    void setZoom(int points);
+
+    /// Whether lines are broken at the width of the pane, as they are at first; else the pane scrolls
+    /// sideways.
+    [[nodiscard]] bool wrapsLines() const { return lineWrapMode() == WidgetWidth; }
+    void setWrapsLines(bool wraps);
+
+signals:
+    /// The user has made the text larger or smaller.
+    void zoomed();
+
 protected:
     PaneTextEdit(const QMargins& margins, QWidget* parent);
 
@@ -72,6 +85,8 @@ private:
     [[nodiscard]] QPointF onNearestLine(QPointF point) const;
 
     PaneDocumentLayout* layout_ = nullptr;
+    int zoom_ = 0;
+    int wheelTurn_ = 0; ///< in eighths of a degree, since the last whole step
     LineEnd ownLineEnd_ = LineEnd::lf;
 };
 

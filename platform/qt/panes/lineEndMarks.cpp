@@ -1,6 +1,5 @@
 #include "platform/qt/panes/lineEndMarks.h"
 
-#include <QHash>
 #include <QTextDocument>
 
 namespace lexiform::qt {
@@ -20,24 +19,14 @@ LineEnd lineEndIn(const QTextFormat& format, LineEnd own) {
     return static_cast<LineEnd>(format.intProperty(lineEndProperty));
 }
 
-// Reads the marks of many blocks. There are few formats among them.
-class MarkReader {
-public:
-    explicit MarkReader(LineEnd own) : own_(own) {}
-
-    LineEnd lineEndBefore(const QTextBlock& block) {
-        const int index = block.charFormatIndex();
-        const auto known = ends_.constFind(index);
-        if (known != ends_.constEnd()) return *known;
-        return *ends_.insert(index, lineEndIn(block.charFormat(), own_));
-    }
-
-private:
-    LineEnd own_;
-    QHash<int, LineEnd> ends_;
-};
-
 } // namespace
+
+LineEnd MarkReader::lineEndBefore(const QTextBlock& block) {
+    const int index = block.charFormatIndex();
+    const auto known = ends_.constFind(index);
+    if (known != ends_.constEnd()) return *known;
+    return *ends_.insert(index, lineEndIn(block.charFormat(), own_));
+}
 
 LineEnd lineEndBefore(const QTextBlock& block, LineEnd own) {
     return lineEndIn(block.charFormat(), own);

@@ -3,6 +3,7 @@
 #include "platform/qt/panes/LineEnd.h"
 #include "platform/qt/panes/TextBlocks.h"
 
+#include <QHash>
 #include <QString>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -16,6 +17,19 @@ namespace lexiform::qt {
 
 /// The line end in front of `block`, which is not the first one.
 [[nodiscard]] LineEnd lineEndBefore(const QTextBlock& block, LineEnd own);
+
+/// Reads the line ends of many blocks in turn: there are few formats among them.
+class MarkReader {
+public:
+    explicit MarkReader(LineEnd own) : own_(own) {}
+
+    /// The line end in front of `block`, which is not the first one.
+    [[nodiscard]] LineEnd lineEndBefore(const QTextBlock& block);
+
+private:
+    LineEnd own_;
+    QHash<int, LineEnd> ends_;
+};
 
 [[nodiscard]] bool isSoftBefore(const QTextBlock& block);
 

@@ -33,6 +33,15 @@ QToolBar QToolButton:pressed { background: $pressed; }
 QToolBar QToolButton:focus { border-color: $accent; }
 QToolBar QToolButton:disabled { color: $faint; background: transparent; }
 
+#findBar QToolButton { border: 2px solid transparent; border-radius: 6px; padding: 6px 10px;
+                       background: transparent; color: $text; }
+#findBar QToolButton:hover { background: $hover; }
+#findBar QToolButton:pressed { background: $pressed; }
+#findBar QToolButton:focus { border-color: $accent; }
+QLineEdit { border: 1px solid $border; border-radius: 6px; padding: 6px 9px; background: $fill; color: $text;
+            selection-background-color: $selection; selection-color: $text; }
+QLineEdit:focus { border: 2px solid $accent; padding: 5px 8px; }
+
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { border: 1px solid $border; border-radius: 6px; padding: 6px 15px; min-width: 60px;
               background: $fill; color: $text; }
@@ -50,6 +59,7 @@ QToolTip { background: $fill; color: $text; border: 1px solid $outline; padding:
 
 QScrollBar { background: transparent; border: none; }
 QScrollBar:vertical { width: 10px; margin: 2px; }
+lexiform--qt--KeyTextEdit QScrollBar:vertical { width: 8px; margin: 2px 0 2px 2px; }
 QScrollBar:horizontal { height: 10px; margin: 2px; }
 QScrollBar::handle { background: $grip; border-radius: 3px; }
 QScrollBar::handle:vertical { min-height: 32px; }

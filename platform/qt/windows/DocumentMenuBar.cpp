@@ -1,7 +1,6 @@
 #include "platform/qt/windows/DocumentMenuBar.h"
 
 #include "platform/qt/windows/AppearanceMenu.h"
-#include "platform/qt/windows/EditMenu.h"
 #include "platform/qt/windows/FullScreenAction.h"
 #include "platform/qt/windows/WindowMenu.h"
 #include "platform/qt/windows/showAbout.h"
@@ -16,13 +15,14 @@ constexpr int barHeight = 30;
 
 } // namespace
 
-DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const WindowServices& services, QWidget* window)
-    : QMenuBar(window), fileMenu_(new FileMenu(window)) {
+DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const PaneCommands& panes,
+                                 const WindowServices& services, QWidget* window)
+    : QMenuBar(window), fileMenu_(new FileMenu(window)), editMenu_(new EditMenu(panes.places(), window)) {
     setMinimumHeight(barHeight);
     addMenu(fileMenu_);
-    addMenu(new EditMenu(window));
+    addMenu(editMenu_);
     addTextMenu(actions);
-    addViewMenu(services);
+    addViewMenu(panes, services);
     addMenu(new WindowMenu(services.windows, window));
     addHelpMenu();
 }
@@ -32,8 +32,10 @@ void DocumentMenuBar::addTextMenu(const TextActions& actions) {
         ->addActions({actions.parse, actions.multiParse, actions.listWords, actions.saveList});
 }
 
-void DocumentMenuBar::addViewMenu(const WindowServices& services) {
+void DocumentMenuBar::addViewMenu(const PaneCommands& panes, const WindowServices& services) {
     QMenu* menu = addMenu(tr("&View"));
+    menu->addActions(panes.views());
+    menu->addSeparator();
     menu->addMenu(new AppearanceMenu(services.theme, services.store, this));
     menu->addSeparator();
     menu->addAction(new FullScreenAction(*window()));

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "platform/qt/windows/EditMenu.h"
 #include "platform/qt/windows/FileMenu.h"
+#include "platform/qt/windows/PaneCommands.h"
 #include "platform/qt/windows/TextActions.h"
 #include "platform/qt/windows/WindowServices.h"
 
@@ -13,16 +15,19 @@ class DocumentMenuBar : public QMenuBar {
     Q_OBJECT
 
 public:
-    DocumentMenuBar(const TextActions& actions, const WindowServices& services, QWidget* window);
+    DocumentMenuBar(const TextActions& actions, const PaneCommands& panes, const WindowServices& services,
+                    QWidget* window);
 
+    [[nodiscard]] EditMenu* editMenu() const { return editMenu_; }
     [[nodiscard]] FileMenu* fileMenu() const { return fileMenu_; }
 
 private:
     void addTextMenu(const TextActions& actions);
-    void addViewMenu(const WindowServices& services);
+    void addViewMenu(const PaneCommands& panes, const WindowServices& services);
     void addHelpMenu();
 
     FileMenu* fileMenu_;
+    EditMenu* editMenu_;
 };
 
 } // namespace lexiform::qt

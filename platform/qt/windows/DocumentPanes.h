@@ -5,6 +5,8 @@
 #include "platform/qt/panes/OutputTextEdit.h"
 #include "platform/qt/windows/PaneSplitter.h"
 
+#include <array>
+
 namespace lexiform::qt {
 
 /// The four panes of a document window, side by side.
@@ -18,6 +20,8 @@ public:
     [[nodiscard]] OutputTextEdit* output() const { return output_; }
     [[nodiscard]] KeyTextEdit* key() const { return key_; }
     [[nodiscard]] OutputTextEdit* concordance() const { return concordance_; }
+    /// From left to right.
+    [[nodiscard]] std::array<PaneTextEdit*, 4> all() const { return {input_, output_, key_, concordance_}; }
 
 private:
     InputTextEdit* input_;

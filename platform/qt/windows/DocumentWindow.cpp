@@ -27,7 +27,8 @@ constexpr int busyGap = 6;
 DocumentWindow::DocumentWindow(std::shared_ptr<ViewController> controller, const WindowServices& services)
     : controller_(std::move(controller)), store_(services.store), actions_(makeTextActions(this)),
       toolBar_(new DocumentToolBar(actions_, this)), busyLine_(new BusyLine(this)),
-      panes_(new DocumentPanes(this)), statusLine_(new StatusLine(this)),
+      panes_(new DocumentPanes(this)), findBar_(new FindBar(this)),
+      paneCommands_(*panes_, *findBar_, services.store, this), statusLine_(new StatusLine(this)),
       outlets_(*controller_, *panes_, toolBar_->typesPopUp(), busyLine_, [this] { return displayName_; }) {
     buildBars(services);
     setCentralWidget(makeContent());
@@ -60,8 +61,10 @@ void DocumentWindow::closeEvent(QCloseEvent* event) {
 }
 
 void DocumentWindow::buildBars(const WindowServices& services) {
-    auto* menus = new DocumentMenuBar(actions_, services, this);
+    auto* menus = new DocumentMenuBar(actions_, paneCommands_, services, this);
     fileMenu_ = menus->fileMenu();
+    for (PaneTextEdit* pane : panes_->all())
+        menus->editMenu()->serveAsContextMenuOf(*pane);
     setMenuBar(menus);
     addToolBar(toolBar_);
     setStatusBar(statusLine_);
@@ -75,6 +78,7 @@ QWidget* DocumentWindow::makeContent() {
     column->setSpacing(aroundLine);
     column->addWidget(busyLine_);
     column->addWidget(panes_, 1);
+    column->addWidget(findBar_);
     busyLine_->hide();
     return content;
 }

@@ -5,6 +5,8 @@
 #include "platform/qt/windows/DocumentPanes.h"
 #include "platform/qt/windows/DocumentToolBar.h"
 #include "platform/qt/windows/FileMenu.h"
+#include "platform/qt/windows/FindBar.h"
+#include "platform/qt/windows/PaneCommands.h"
 #include "platform/qt/windows/StatusLine.h"
 #include "platform/qt/windows/TextActions.h"
 #include "platform/qt/windows/WindowServices.h"
@@ -41,6 +43,7 @@ public:
     [[nodiscard]] DocumentPanes* panes() const { return panes_; }
     [[nodiscard]] DocumentToolBar* toolBar() const { return toolBar_; }
     [[nodiscard]] StatusLine* statusLine() const { return statusLine_; }
+    [[nodiscard]] FindBar* findBar() const { return findBar_; }
 
 signals:
     /// Files were dropped on the window.
@@ -71,6 +74,8 @@ private:
     DocumentToolBar* toolBar_;
     BusyLine* busyLine_;
     DocumentPanes* panes_;
+    FindBar* findBar_;
+    PaneCommands paneCommands_;
     StatusLine* statusLine_;
     FileMenu* fileMenu_ = nullptr;
     std::function<bool()> mayClose_;

@@ -6,7 +6,7 @@
 
 namespace lexiform::qt {
 
-EditMenu::EditMenu(QWidget* window) : QMenu(tr("&Edit"), window) {
+EditMenu::EditMenu(const QList<QAction*>& places, QWidget* window) : QMenu(tr("&Edit"), window) {
     undo_ = addCommand(tr("&Undo"), QKeySequence::Undo, &QPlainTextEdit::undo);
     redo_ = addCommand(tr("&Redo"), QKeySequence::Redo, &QPlainTextEdit::redo);
     addSeparator();
@@ -15,6 +15,8 @@ EditMenu::EditMenu(QWidget* window) : QMenu(tr("&Edit"), window) {
     paste_ = addCommand(tr("&Paste"), QKeySequence::Paste, &QPlainTextEdit::paste);
     addSeparator();
     selectAll_ = addCommand(tr("Select &All"), QKeySequence::SelectAll, &QPlainTextEdit::selectAll);
+    addSeparator();
+    addActions(places);
 
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*old*/, QWidget* now) { followFocus(now); });
@@ -29,6 +31,23 @@ QAction* EditMenu::addCommand(const QString& title, QKeySequence::StandardKey ke
         if (pane_) (pane_->*command)();
     });
     return action;
+}
+
+void EditMenu::serveAsContextMenuOf(QPlainTextEdit& pane) {
+    pane.setContextMenuPolicy(Qt::CustomContextMenu);
+    // Not this menu is the receiver: it drops its connections to a pane that loses the focus.
+    connect(&pane, &QWidget::customContextMenuRequested, &pane,
+            [this, &pane](QPoint point) { openOver(pane, pane.viewport()->mapToGlobal(point)); });
+}
+
+// The menu bar keeps the menu itself, which can be open in one place only.
+void EditMenu::openOver(QPlainTextEdit& pane, QPoint point) {
+    pane.setFocus(Qt::PopupFocusReason);
+    watch(&pane);
+    auto* menu = new QMenu(&pane);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(actions());
+    menu->popup(point);
 }
 
 // A menu that opens and a window that loses the desktop's attention leave the commands to the pane

@@ -6,18 +6,23 @@
 
 namespace lexiform::qt {
 
-/// The commands on the pane that has the focus: undo, redo, cut, copy, paste, select all. Each is
-/// enabled only while it would do something.
+/// The commands on the pane that has the focus: undo, redo, cut, copy, paste, select all; a pane has it as
+/// its context menu as well. Each is enabled only while it would do something.
 class EditMenu : public QMenu {
     Q_OBJECT
 
 public:
-    explicit EditMenu(QWidget* window);
+    /// Below these it has the `places`: what finds and goes to a place in a pane.
+    EditMenu(const QList<QAction*>& places, QWidget* window);
+
+    /// Opens as the context menu of `pane`, to which the keyboard then goes.
+    void serveAsContextMenuOf(QPlainTextEdit& pane);
 
 private:
     using Command = void (QPlainTextEdit::*)();
 
     QAction* addCommand(const QString& title, QKeySequence::StandardKey keys, Command command);
+    void openOver(QPlainTextEdit& pane, QPoint point);
     void followFocus(QWidget* focused);
     void watch(QPlainTextEdit* pane);
     void refresh();

@@ -12,6 +12,8 @@ namespace {
 const QString widthKey = QStringLiteral("window/width");
 const QString heightKey = QStringLiteral("window/height");
 const QString panesKey = QStringLiteral("window/panes");
+const QString zoomsKey = QStringLiteral("window/zoom");
+const QString wrapKeys = QStringLiteral("wrap/");
 const QString appearanceKey = QStringLiteral("appearance");
 
 // In the order of AppearanceChoice.
@@ -41,10 +43,36 @@ QList<int> StateStore::paneSizes() const {
 }
 
 void StateStore::setPaneSizes(const QList<int>& sizes) {
+    setNumbers(panesKey, sizes);
+}
+
+QList<int> StateStore::paneZooms() const {
+    QList<int> points;
+    for (const QString& text : settings_.value(zoomsKey).toStringList()) {
+        bool isNumber = false;
+        points.append(text.toInt(&isNumber));
+        if (!isNumber) return {};
+    }
+    return points;
+}
+
+void StateStore::setPaneZooms(const QList<int>& points) {
+    setNumbers(zoomsKey, points);
+}
+
+bool StateStore::wrapsLines(const QString& pane) const {
+    return settings_.value(wrapKeys + pane).toString() != QLatin1String("false");
+}
+
+void StateStore::setWrapsLines(const QString& pane, bool wraps) {
+    settings_.setValue(wrapKeys + pane, wraps);
+}
+
+void StateStore::setNumbers(const QString& key, const QList<int>& numbers) {
     QStringList texts;
-    for (const int size : sizes)
-        texts.append(QString::number(size));
-    settings_.setValue(panesKey, texts);
+    for (const int number : numbers)
+        texts.append(QString::number(number));
+    settings_.setValue(key, texts);
 }
 
 AppearanceChoice StateStore::appearance() const {

@@ -24,10 +24,21 @@ public:
     [[nodiscard]] QList<int> paneSizes() const;
     void setPaneSizes(const QList<int>& sizes);
 
+    /// How many points larger than usual the text of each pane is, from left to right; empty while none is
+    /// remembered.
+    [[nodiscard]] QList<int> paneZooms() const;
+    void setPaneZooms(const QList<int>& points);
+
+    /// Whether the lines of a pane are wrapped; true while nothing else is remembered.
+    [[nodiscard]] bool wrapsLines(const QString& pane) const;
+    void setWrapsLines(const QString& pane, bool wraps);
+
     [[nodiscard]] AppearanceChoice appearance() const;
     void setAppearance(AppearanceChoice choice);
 
 private:
+    void setNumbers(const QString& key, const QList<int>& numbers);
+
     QSettings settings_;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/qt/panes/InputTextEdit.h"
 #include "platform/qt/panes/OutputTextEdit.h"
+#include "platform/qt/panes/PaneScrollBar.h"
 #include "platform/qt/theme/Palette.h"
 
 #include <QApplication>
@@ -75,7 +76,7 @@ TEST(LinesOnScreen, areTallerWhereTheirCharactersAre) {
     for (QTextBlock block = pane.document()->begin(); block.next().isValid(); block = block.next()) {
         const QTextLine line = block.layout()->lineAt(0);
         const qreal slot = pane.topOf(block.blockNumber() + 1) - pane.topOf(block.blockNumber());
-        const qreal topMargin = block.blockNumber() == 0 ? 17 : 0; // stands above what the editor counts
+        const qreal topMargin = block.blockNumber() == 0 ? 12 : 0; // stands above what the editor counts
         EXPECT_GE(slot + topMargin, line.height() - 0.01);
     }
 }
@@ -86,14 +87,47 @@ TEST(LinesOnScreen, keepTheirMargins) {
     EXPECT_EQ(pane.caretAt(0).top(), 4);
     const QTextLine line = pane.document()->begin().layout()->lineAt(0);
     EXPECT_EQ(line.x(), 22);
-    EXPECT_NEAR(line.width(), pane.viewport()->width() - 42, 0.01);
+    EXPECT_NEAR(line.width(), pane.width() - 42, 0.01);
+}
+
+TEST(LinesOnScreen, breakAtTheSameWordsAtEveryHeightOfThePane) {
+    Pane pane(wrapped + "\n" + wrapped);
+    const auto lineCounts = [&](int height) {
+        pane.resize(300, height);
+        (void)pane.grab();
+        QList<int> counts{pane.verticalScrollBar()->width()};
+        for (QTextBlock block = pane.document()->begin(); block.isValid(); block = block.next())
+            counts.append(block.layout()->lineCount());
+        return counts;
+    };
+    const QList<int> tall = lineCounts(600);
+    EXPECT_EQ(pane.verticalScrollBar()->maximum(), 0);
+    for (int height = 60; height < 600; height += 7)
+        EXPECT_EQ(lineCounts(height), tall) << height;
+    (void)lineCounts(60);
+    EXPECT_GT(pane.verticalScrollBar()->maximum(), 0);
+}
+
+TEST(LinesOnScreen, haveNoScrollBarToSeeWhileAllAreShown) {
+    Pane pane("one line");
+    const auto isBlank = [&] {
+        const QImage image = pane.verticalScrollBar()->grab().toImage();
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) != image.pixel(0, 0)) return false;
+        return true;
+    };
+    EXPECT_TRUE(isBlank());
+    pane.replaceText(AttributedText(lines(100), Colour::text));
+    EXPECT_FALSE(isBlank());
+    EXPECT_EQ(pane.verticalScrollBar()->width(), PaneScrollBar::barWidth);
 }
 
 TEST(LinesOnScreen, keepRightWhereAParagraphBeginsRightToLeft) {
     const Pane pane(
         "\xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7 abc\nabc \xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7");
     const QTextLine rightToLeft = pane.document()->begin().layout()->lineAt(0);
-    EXPECT_NEAR(rightToLeft.naturalTextRect().right(), pane.viewport()->width() - 20, 1);
+    EXPECT_NEAR(rightToLeft.naturalTextRect().right(), pane.width() - 20, 1);
     const QTextLine leftToRight = pane.document()->begin().next().layout()->lineAt(0);
     EXPECT_EQ(leftToRight.naturalTextRect().left(), 22);
 }
@@ -189,15 +223,60 @@ TEST(LinesOnScreen, areRepaintedWholeWhenTheyChange) {
     EXPECT_TRUE(watch.painted.contains(pane.caretAt(1).adjusted(-8, 0, 0, 0)));
 }
 
-TEST(LinesOnScreen, keepTheirSizeUnderAWheelWithCtrl) {
+TEST(LinesOnScreen, growUnderAWheelWithCtrlStepByStep) {
     OutputTextEdit pane;
     pane.resize(200, 200);
     pane.show();
     const int before = pane.font().pointSize();
-    QWheelEvent wheel({50, 50}, pane.mapToGlobal(QPointF(50, 50)), {}, {0, 120}, Qt::NoButton,
-                      Qt::ControlModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(pane.viewport(), &wheel);
-    EXPECT_EQ(pane.font().pointSize(), before);
+    int told = 0;
+    QObject::connect(&pane, &PaneTextEdit::zoomed, [&] { ++told; });
+    const auto turn = [&](int eighths) {
+        QWheelEvent wheel({50, 50}, pane.mapToGlobal(QPointF(50, 50)), {}, {0, eighths}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(pane.viewport(), &wheel);
+        return pane.font().pointSize() - before;
+    };
+    EXPECT_EQ(turn(120), 1);
+    EXPECT_EQ(turn(60), 1);
+    EXPECT_EQ(turn(60), 2);
+    EXPECT_EQ(turn(-240), 0);
+    EXPECT_EQ(told, 3);
+}
+
+TEST(LinesOnScreen, keepTheirPitchAtEverySize) {
+    Pane pane("one\ntwo\nthree");
+    for (const int points : {-4, 6, 20}) {
+        pane.setZoom(points);
+        (void)pane.grab();
+        EXPECT_EQ(pane.zoom(), points);
+        EXPECT_NEAR(pane.topOf(2) - pane.topOf(1), 1.45 * pane.em(), 0.01);
+    }
+    pane.setZoom(-100);
+    EXPECT_EQ(pane.font().pointSize(), 6);
+    pane.setZoom(100);
+    EXPECT_EQ(pane.font().pointSize(), 72);
+}
+
+TEST(LinesOnScreen, runOnToTheRightWhenTheyAreNotWrapped) {
+    Pane pane(wrapped + " " + wrapped + "\n\xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7 abc");
+    EXPECT_GT(pane.document()->begin().layout()->lineCount(), 1);
+    pane.setWrapsLines(false);
+    (void)pane.grab();
+    EXPECT_EQ(pane.document()->begin().layout()->lineCount(), 1);
+    EXPECT_EQ(pane.document()->lastBlock().layout()->lineAt(0).naturalTextRect().left(), 22);
+    QScrollBar& bar = *pane.horizontalScrollBar();
+    ASSERT_TRUE(bar.isVisible());
+    pane.moveCursor(QTextCursor::Start);
+    pane.moveCursor(QTextCursor::EndOfLine);
+    EXPECT_TRUE(pane.viewport()->rect().contains(pane.cursorRect().center()));
+    EXPECT_GT(bar.value(), 0);
+    bar.setValue(bar.maximum());
+    EXPECT_NEAR(pane.cursorRect().center().x(), pane.viewport()->width() - 10, 2);
+    pane.setWrapsLines(true);
+    (void)pane.grab();
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_GT(pane.document()->begin().layout()->lineCount(), 1);
 }
 
 TEST(LinesOnScreen, takeOneSecondForNoLineOfAMegabyte) {

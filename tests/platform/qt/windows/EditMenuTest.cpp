@@ -4,7 +4,10 @@
 #include "tests/platform/qt/windows/DesktopUnderTest.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QPointer>
 #include <QTextBlock>
 #include <QToolButton>
 
@@ -32,10 +35,10 @@ protected:
         return nullptr;
     }
 
-    // The titles of the enabled commands, in order.
+    // The titles of the enabled commands on the text, in order; those that find come after them.
     QStringList enabled() {
         QStringList titles;
-        for (const QAction* each : menu.actions())
+        for (const QAction* each : menu.actions().first(menu.actions().indexOf(action("Find…"))))
             if (each->isEnabled() && !each->isSeparator()) titles.append(QString(each->text()).remove(u'&'));
         return titles;
     }
@@ -122,6 +125,47 @@ TEST_F(EditMenuTest, keepsLinesShortEnoughToPaint) {
         EXPECT_LE(input.document()->begin().length(), longestPiece + 1) << command;
     }
     EXPECT_EQ(input.text(), line + line);
+}
+
+TEST_F(EditMenuTest, copiesTheColoursOfTheOutput) {
+    focus(window.panes()->output());
+    action("Select All")->trigger();
+    action("Copy")->trigger();
+    const QMimeData* copied = QApplication::clipboard()->mimeData();
+    EXPECT_EQ(copied->text(), "The cat sat.");
+    EXPECT_TRUE(copied->html().contains("color: #0055d4\">cat"));
+    EXPECT_TRUE(copied->data("text/rtf").startsWith("{\\rtf1"));
+}
+
+TEST_F(EditMenuTest, pastesNoMoreThanCharacters) {
+    auto* rich = new QMimeData;
+    rich->setHtml("<b>dog</b>");
+    rich->setText("dog");
+    QApplication::clipboard()->setMimeData(rich);
+    focus(window.panes()->input());
+    action("Select All")->trigger();
+    action("Paste")->trigger();
+    EXPECT_EQ(window.panes()->input()->text(), "dog");
+    EXPECT_FALSE(window.panes()->input()->textCursor().charFormat().hasProperty(QTextFormat::FontWeight));
+}
+
+TEST_F(EditMenuTest, opensOverEachPaneWithItsShortcuts) {
+    for (PaneTextEdit* pane : window.panes()->all())
+        focus(pane);
+    for (PaneTextEdit* pane : window.panes()->all()) {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {20, 20},
+                                pane->viewport()->mapToGlobal(QPoint{20, 20}));
+        QApplication::sendEvent(pane->viewport(), &event);
+        const QPointer<QMenu> open = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(open);
+        EXPECT_EQ(open->actions(), menu.actions());
+        EXPECT_TRUE(pane->hasFocus());
+        EXPECT_EQ(action("Paste")->isEnabled(), pane->canPaste());
+        EXPECT_EQ(action("Copy")->shortcut(), QKeySequence(QKeySequence::Copy));
+        open->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(open);
+    }
 }
 
 TEST_F(EditMenuTest, leavesTheOtherWindowsAlone) {

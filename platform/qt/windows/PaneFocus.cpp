@@ -1,0 +1,18 @@
+#include "platform/qt/windows/PaneFocus.h"
+
+#include <QApplication>
+
+namespace lexiform::qt {
+
+PaneFocus::PaneFocus(QWidget* window, PaneTextEdit* first) : QObject(window), window_(window), pane_(first) {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { follow(now); });
+}
+
+void PaneFocus::follow(QWidget* focused) {
+    auto* pane = qobject_cast<PaneTextEdit*>(focused);
+    if (!pane || pane == pane_ || pane->window() != window_) return;
+    pane_ = pane;
+    emit changed();
+}
+
+} // namespace lexiform::qt

@@ -1,0 +1,12 @@
+# Runs the validator COMMAND, a list, and fails on any finding. Without the validator the test is skipped.
+list(GET COMMAND 0 name)
+find_program(validator ${name})
+if(NOT validator)
+  message("SKIPPED: there is no ${name} here.")
+  return()
+endif()
+execute_process(COMMAND ${COMMAND} RESULT_VARIABLE status OUTPUT_VARIABLE findings ERROR_VARIABLE errors)
+string(APPEND findings "${errors}")
+if(NOT status EQUAL 0 OR findings MATCHES "WARNING|ERROR|error:|warning:")
+  message(FATAL_ERROR "${COMMAND} ended with ${status}:\n${findings}")
+endif()
