@@ -4,6 +4,7 @@
 #include "platform/qt/windows/FileDropTarget.h"
 #include "platform/qt/windows/ScreenAppearance.h"
 #include "platform/qt/windows/WaitCursor.h"
+#include "platform/qt/windows/connectPanes.h"
 #include "platform/qt/windows/wordCount.h"
 
 #include <QCloseEvent>
@@ -96,6 +97,7 @@ void DocumentWindow::connectCommands() {
     connect(panes_->input()->document(), &QTextDocument::modificationChanged, statusLine_,
             &StatusLine::showEdited);
     connect(new FileDropTarget(*this), &FileDropTarget::dropped, this, &DocumentWindow::filesDropped);
+    connectPanes(*panes_, paneCommands_.find());
     connect(panes_, &PaneSplitter::arranged, this,
             [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
 }
