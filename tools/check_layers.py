@@ -67,6 +67,10 @@ INSIDE = {
     "tools/train/chain": (
         "tools/train/corpora", "tools/train/lexicon", "tools/train/sources", "tools/train/file",
     ),
+    "tools/train/silver": (
+        "tools/train/corpora", "tools/train/lexicon", "tools/train/sources", "tools/train/file", "tools/train/chain",
+        "tools/train/segmentation",
+    ),
     "tools/train/lemmas": ("tools/train/corpora", "tools/train/sources", "tools/train/file"),
     "tools/train/language": ("tools/train/corpora", "tools/train/file"),
     "tools/train/segmentation": ("tools/train/corpora", "tools/train/sources", "tools/train/file"),
@@ -76,7 +80,7 @@ INSIDE = {
     "tools/train/evaluation": ("tools/train/corpora",),
     "tools/train/commands": (
         "tools/train/corpora", "tools/train/lexicon", "tools/train/sources", "tools/train/file",
-        "tools/train/chain", "tools/train/network", "tools/train/segmentation", "tools/train/lemmas", "tools/train/language",
+        "tools/train/chain", "tools/train/silver", "tools/train/network", "tools/train/segmentation", "tools/train/lemmas", "tools/train/language",
         "tools/train/evaluation",
     ),
     "tools/train": (),

@@ -12,7 +12,7 @@ namespace lexiform::cli {
 namespace {
 
 // Small enough for several to be in work, large enough for the hand-over to cost nothing.
-constexpr std::size_t blockSize = std::size_t{256} * 1024;
+constexpr std::size_t blockSize = std::size_t{128} * 1024;
 
 // How far past its start a paragraph may look to find its end.
 constexpr std::size_t lookAhead = linguistics::longestParagraph + 4;

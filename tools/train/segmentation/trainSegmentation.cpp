@@ -56,14 +56,16 @@ private:
         for (const Source& source : sources_.training) {
             if (!source.hasSpacing) continue;
             log_ << "  " << source.name << ": " << source.corpus.size() << " sentences\n";
-            layOut(source.corpus);
-            if (hasLostSpacing(source.corpus)) layOut(withUsualSpacing(source.corpus));
-            if (sources_.language == "zh") layOut(inSimplifiedCharacters(source.corpus));
+            layOut(source.corpus, source.hasSentences);
+            if (hasLostSpacing(source.corpus)) layOut(withUsualSpacing(source.corpus), source.hasSentences);
+            if (sources_.language == "zh") layOut(inSimplifiedCharacters(source.corpus), source.hasSentences);
         }
     }
 
-    void layOut(const Corpus& corpus) {
+    void layOut(const Corpus& corpus, bool hasSentences) {
         texts_.push_back(rawTextOf(corpus, Layout::paragraphs));
+        if (!hasSentences) return;
+        sentences_.push_back(texts_.back());
         lines_.push_back(rawTextOf(corpus, Layout::lines));
         wrapped_.push_back(rawTextOf(corpus, Layout::wrapped));
     }
@@ -120,7 +122,7 @@ private:
 
     void learnSentences() {
         SegmentationExamples examples;
-        for (const auto* texts : {&texts_, &lines_, &wrapped_})
+        for (const auto* texts : {&sentences_, &lines_, &wrapped_})
             for (const RawText& raw : *texts)
                 gatherExamples(raw, sources_.language, learned_, false, examples);
         learn(SegmentationSection::sentenceEnds, examples.sentenceEnds, sizeOfTable(1), sentenceEnds_);
@@ -156,7 +158,8 @@ private:
     const LanguageSources& sources_;
     ModelFileWriter& image_;
     std::ostream& log_;
-    std::vector<RawText> texts_, lines_, wrapped_;
+    std::vector<RawText> texts_;                       ///< all, to cut into tokens
+    std::vector<RawText> sentences_, lines_, wrapped_; ///< in three layouts, to cut into sentences
     std::vector<std::uint32_t> abbreviations_, commonWords_, compounds_, strongCompounds_;
     WordEndings endings_;
     LearnedSegmentation learned_;

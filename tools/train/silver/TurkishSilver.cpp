@@ -4,10 +4,13 @@
 #include "linguistics/text/Characters.h"
 #include "linguistics/text/Utf8.h"
 #include "tools/train/lexicon/readTurkishForms.h"
+#include "tools/train/segmentation/UsualSpacing.h"
 #include "tools/train/silver/ChainLabeller.h"
+#include "tools/train/silver/TurkishSplitting.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace lexiform::train {
 
@@ -62,9 +65,13 @@ std::optional<std::string> addTurkishSilver(LanguageSources& sources, const Lexi
     const ChainLabeller labeller(sources, lexicon, log);
     for (Source& source : sources.training) {
         if (!hasNamesAlone(source)) continue;
+        source.corpus = withUsualSpacing(std::move(source.corpus));
+        splitTurkishWords(forms, source.corpus);
         labeller.label(source.corpus);
         correctTurkishTags(forms, source.corpus);
         source.tagWeight = silverWeight;
+        source.hasSpacing = true;
+        source.hasSentences = false;
     }
     return std::nullopt;
 }

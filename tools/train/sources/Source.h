@@ -18,6 +18,8 @@ struct Source {
     float nameWeight = 0;  ///< the same for names
     /// Whether tokens, spaces and sentence ends are those of a running text.
     bool hasSpacing = false;
+    /// Whether sentences end where those of a running text do.
+    bool hasSentences = true;
 };
 
 /// All that the models of one language are trained from and chosen by.
