@@ -21,7 +21,7 @@ quick() {
 tidy() {
   cmake --preset release -B build/tidy -DLEXIFORM_TESTS=OFF -DLEXIFORM_BENCHMARKS=OFF \
     -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
-  sources '*.cpp' | grep -vE '^(tests|benchmarks)/' |
+  sources '*.cpp' | grep -vE '^(tests|benchmarks|examples)/' |
     xargs -P "$(nproc)" -n 4 clang-tidy -p build/tidy --quiet 2>/dev/null
 }
 

@@ -5,9 +5,12 @@
 #include "platform/qt/adapters/QtFileWriter.h"
 #include "platform/qt/adapters/QtSavePanel.h"
 #include "platform/qt/adapters/QtUserDefaults.h"
+#include "platform/qt/documents/DialogQuestions.h"
 #include "platform/qt/documents/DocumentController.h"
+#include "platform/qt/documents/FileType.h"
 #include "platform/qt/documents/SceneStoryboard.h"
 #include "platform/qt/documents/commandLine.h"
+#include "platform/qt/documents/printedDocument.h"
 #include "platform/qt/makerAddresses.h"
 #include "platform/qt/shell/QtBundle.h"
 #include "platform/qt/shell/Shell.h"
@@ -19,6 +22,7 @@
 #include "platform/qt/windows/messageBox.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
 
@@ -33,6 +37,13 @@ QString configFile(const QString& name) {
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u'/' + name;
 }
 
+// What the program remembers is no preference: it has a place of its own beside those of other programs.
+QString stateFile(const QString& name) {
+    const QString given = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString folder = QDir::isAbsolutePath(given) ? given : QDir::homePath() + u"/.local/state"_qs;
+    return folder + u"/lexiform/"_qs + name;
+}
+
 AnalysisServices analysisServices() {
     return {
         .defaults = std::make_shared<qt::QtUserDefaults>(configFile(QStringLiteral("defaults.ini"))),
@@ -42,7 +53,8 @@ AnalysisServices analysisServices() {
 }
 
 QStringList chooseFiles() {
-    return QFileDialog::getOpenFileNames(QApplication::activeWindow(), QObject::tr("Open"));
+    return QFileDialog::getOpenFileNames(QApplication::activeWindow(), QObject::tr("Open"), {},
+                                         qt::openFilters().join(QLatin1String(";;")));
 }
 
 // Without its model the program still opens and shows texts, every word in the colour of no class.
@@ -85,8 +97,17 @@ int run(QApplication& application, const QStringList& files) {
     const qt::WindowServices services{theme, store, windows, analysisServices(), &actions};
     addScenes(*storyboard, taggers, bundle, services);
 
-    qt::DocumentController documents(storyboard, qt::showOpenFailures, chooseFiles);
-    if (files.isEmpty() || !documents.open(files)) documents.newDocument();
+    qt::DialogQuestions questions;
+    qt::RememberedFiles remembered(stateFile(QStringLiteral("documents.ini")));
+    qt::DocumentController documents(storyboard, {.present = qt::showOpenFailures,
+                                                  .choose = chooseFiles,
+                                                  .questions = questions,
+                                                  .remembered = remembered,
+                                                  .save = qt::saveFile,
+                                                  .print = qt::showPrintPreview});
+    // A file that is named is what the person wants to see, and nothing else.
+    const QStringList first = files.isEmpty() && remembered.reopens() ? remembered.session() : files;
+    if (first.isEmpty() || !documents.open(first)) documents.newDocument();
     tellOfMissingModel(*models);
 
     qt::Shell shell({services.analysis.defaults, bundle, storyboard, qt::makerAddresses()}, actions);

@@ -42,6 +42,14 @@ start() {
   xdotool mousemove 1270 790
   settle
 }
+# side [WIDTH HEIGHT]: turns to the other window of the program.
+side() {
+  local document=$window
+  window=$(xdotool search --onlyvisible --pid "$running" | grep -vx "$document" | tail -1)
+  xdotool windowmove "$window" 0 0 windowraise "$window"
+  [ $# -eq 0 ] || xdotool windowsize "$window" "$@"
+  settle
+}
 stop() { kill "$running"; wait "$running" 2>/dev/null || true; }
 
 # shot NAME [GEOMETRY]: what the screen shows, the whole window or a part of it.
@@ -64,8 +72,10 @@ take_script() { start letters.txt; keys ctrl+shift+r; view S; shot script; stop;
 take_lemmas() { start welcome.txt; keys ctrl+shift+r; view Lem; shot lemmas; stop; }
 take_list() { start welcome.txt; keys ctrl+l; shot list; stop; }
 take_find() { start welcome.txt; keys ctrl+f; xdotool type --delay 60 star; settle; shot find; stop; }
+take_colours() { start welcome.txt; keys alt+o c; side; shot colours; stop; }
+take_palette() { start letters.txt; keys ctrl+shift+r; keys alt+o p; side; shot palette; stop; }
 take_dark() { GTK_THEME=Adwaita:dark QT_QPA_PLATFORMTHEME=gtk3 start letters.txt; shot dark; stop; }
 
-[ $# -gt 0 ] || set -- window language script lemmas list find dark
+[ $# -gt 0 ] || set -- window language script lemmas list find colours palette dark
 for name in "$@"; do "take_$name"; done
 ls -l "$pictures"

@@ -11,7 +11,7 @@ SaveDialog::SaveDialog(const QString& title) : QFileDialog(nullptr, title) {
 }
 
 void SaveDialog::setExtensions(const QStringList& extensions) {
-    extensions_ = extensions;
+    setRequiredExtensions(extensions);
     QStringList patterns;
     for (const QString& extension : extensions)
         patterns.append(QStringLiteral("*.") + extension);

@@ -15,6 +15,8 @@ public:
 
     /// Without dots, the usual one first.
     void setExtensions(const QStringList& extensions);
+    /// The same, with the name filters left as they are.
+    void setRequiredExtensions(const QStringList& extensions) { extensions_ = extensions; }
 
 protected:
     void accept() override;

@@ -1,10 +1,9 @@
 #include "platform/qt/documents/DocumentController.h"
 
-#include "platform/qt/adapters/QtWindowController.h"
-#include "platform/qt/documents/readFile.h"
+#include "platform/qt/documents/readInBackground.h"
 #include "platform/qt/windows/DocumentWindow.h"
 
-#include <QFile>
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -12,79 +11,93 @@
 
 namespace lexiform::qt {
 
-namespace {
-
-// Null for a document whose scene is no document window.
-DocumentWindow* windowOf(const Document& document) {
-    if (document.windowControllers.empty()) return nullptr;
-    const auto controller = std::dynamic_pointer_cast<QtWindowController>(document.windowControllers.front());
-    return controller ? qobject_cast<DocumentWindow*>(controller->window()) : nullptr;
-}
-
-bool isOpen(const Document& document) {
-    const DocumentWindow* window = windowOf(document);
-    return window && window->isVisible();
-}
-
-std::string fileLocation(const QString& path) {
-    return QFile::encodeName(QFileInfo(path).absoluteFilePath()).toStdString();
-}
-
-QString canonical(const std::string& location) {
-    return QFileInfo(QFile::decodeName(QByteArray::fromStdString(location))).canonicalFilePath();
-}
-
-} // namespace
-
-DocumentController::DocumentController(std::shared_ptr<Storyboard> storyboard, FailurePresenter present,
-                                       FileChooser choose)
-    : storyboard_(std::move(storyboard)), present_(std::move(present)), choose_(std::move(choose)) {}
+DocumentController::DocumentController(std::shared_ptr<Storyboard> storyboard, DocumentServices services)
+    : storyboard_(std::move(storyboard)), services_(std::move(services)),
+      saver_(services_.questions, services_.save) {}
 
 void DocumentController::newDocument() {
-    const auto document = std::make_shared<Document>(storyboard_);
+    const auto document = std::make_shared<OpenedDocument>(storyboard_);
     document->makeWindowControllers();
     show(document, untitledName());
 }
 
 bool DocumentController::open(const QStringList& paths) {
     std::vector<OpenFailure> failures;
+    bool shown = false;
     for (const QString& path : paths) {
-        if (const Document* known = openedFrom(path)) {
+        if (const OpenedDocument* known = openedFrom(path)) {
             bringForward(*windowOf(*known));
+            shown = true;
             continue;
         }
         auto outcome = read(path);
         if (!outcome.succeeded()) {
-            failures.push_back({path, outcome.fault()});
+            // Whoever stopped it knows.
+            if (outcome.fault() != OpenFault::cancelled) failures.push_back({path, outcome.fault()});
             continue;
         }
         outcome.value()->makeWindowControllers();
         show(outcome.value(), QFileInfo(path).fileName());
+        noteFile(*outcome.value());
+        shown = true;
     }
-    if (!failures.empty()) present_(failures);
-    return failures.size() < static_cast<std::size_t>(paths.size());
+    if (!failures.empty()) services_.present(failures);
+    return shown;
 }
 
 void DocumentController::openChosen() {
-    open(choose_());
+    open(services_.choose());
 }
 
-Outcome<std::shared_ptr<Document>, OpenFault> DocumentController::read(const QString& path) {
-    auto bytes = readFile(path);
+Outcome<std::shared_ptr<OpenedDocument>, OpenFault> DocumentController::read(const QString& path) {
+    const FileStamp stamp = stampOf(path); // before reading, so that a later change is noticed
+    auto bytes = readInBackground(path);
     if (!bytes.succeeded()) return bytes.fault();
-    auto document = std::make_shared<Document>(storyboard_);
-    document->fileURL = fileLocation(path);
-    const auto outcome = document->readFromData(std::move(bytes).value(), std::string(plainTextType));
-    if (!outcome.succeeded()) return OpenFault::refused;
+    auto document = std::make_shared<OpenedDocument>(storyboard_);
+    setPath(*document, path);
+    document->fileType = typeOfFile(path, bytes.value());
+    document->stamp = stamp;
+    document->holdsBytesOfFile = true;
+    if (!document->readFromData(std::move(bytes).value(), document->fileType).succeeded())
+        return OpenFault::refused;
     return document;
 }
 
+void DocumentController::revert(OpenedDocument& document) {
+    DocumentWindow& window = *windowOf(document);
+    if (!document.fileURL) return;
+    if (window.isEdited() && !services_.questions.askToRevert(window, window.displayName())) return;
+    const QString path = pathOf(document);
+    const FileStamp stamp = stampOf(path);
+    auto bytes = readInBackground(path);
+    if (!bytes.succeeded()) return services_.present({{path, bytes.fault()}});
+    if (!document.readFromData(std::move(bytes).value(), document.fileType).succeeded())
+        return services_.present({{path, OpenFault::refused}});
+    document.stamp = stamp;
+    document.holdsBytesOfFile = true;
+    window.markSaved();
+}
+
+// Everybody is asked before the first window goes, so that a cancelled end leaves all of them.
+void DocumentController::quit() {
+    const Documents open = documents_;
+    for (const auto& document : open)
+        if (isOpen(*document) && !mayClose(*document)) return;
+    rememberSession();
+    quitting_ = true;
+    for (const auto& document : open)
+        if (isOpen(*document)) windowOf(*document)->close();
+    QCoreApplication::quit();
+    quitting_ = false;
+}
+
 // Two paths of one file, a link among them, are the same document.
-Document* DocumentController::openedFrom(const QString& path) const {
+OpenedDocument* DocumentController::openedFrom(const QString& path) const {
     const QString wanted = QFileInfo(path).canonicalFilePath();
     if (wanted.isEmpty()) return nullptr;
     for (const auto& document : documents_)
-        if (document->fileURL && isOpen(*document) && canonical(*document->fileURL) == wanted)
+        if (document->fileURL && isOpen(*document) &&
+            QFileInfo(pathOf(*document)).canonicalFilePath() == wanted)
             return document.get();
     return nullptr;
 }
@@ -101,20 +114,87 @@ QString DocumentController::untitledName() const {
     return name;
 }
 
-void DocumentController::show(const std::shared_ptr<Document>& document, const QString& name) {
+void DocumentController::show(const std::shared_ptr<OpenedDocument>& document, const QString& name) {
     documents_.push_back(document);
     DocumentWindow* window = windowOf(*document);
     if (!window) return;
     window->setDisplayName(name);
-    connect(window, &DocumentWindow::newRequested, this, &DocumentController::newDocument);
-    connect(window, &DocumentWindow::openRequested, this, &DocumentController::openChosen);
-    // Queued: dropping the document deletes the window, which is still closing.
-    connect(window, &DocumentWindow::closed, this, &DocumentController::dropClosed, Qt::QueuedConnection);
+    window->markSaved(); // setting its panes up is no edit of anybody's
+    connectWindow(*document);
+    connectSaving(*document);
     window->show();
 }
 
+void DocumentController::connectWindow(OpenedDocument& document) {
+    DocumentWindow* window = windowOf(document);
+    FileMenu* menu = window->fileMenu();
+    connect(menu, &FileMenu::newRequested, this, &DocumentController::newDocument);
+    connect(menu, &FileMenu::openRequested, this, &DocumentController::openChosen);
+    connect(menu, &FileMenu::recentRequested, this, [this](const QString& path) { open({path}); });
+    connect(menu, &FileMenu::clearRecentRequested, this, [this] { services_.remembered.clearRecent(); });
+    menu->setRecentFiles([this] { return services_.remembered.recent(); });
+    menu->setReopens(services_.remembered.reopens());
+    connect(menu, &FileMenu::reopensChanged, this,
+            [this](bool reopens) { services_.remembered.setReopens(reopens); });
+    connect(menu, &FileMenu::quitRequested, this, &DocumentController::quit);
+    // Queued: the program that files are dragged from waits until the drop is taken.
+    connect(window, &DocumentWindow::filesDropped, this, &DocumentController::open, Qt::QueuedConnection);
+    // Queued: dropping the document deletes the window, which is still closing.
+    connect(window, &DocumentWindow::closed, this, &DocumentController::dropClosed, Qt::QueuedConnection);
+}
+
+void DocumentController::connectSaving(OpenedDocument& document) {
+    DocumentWindow* window = windowOf(document);
+    FileMenu* menu = window->fileMenu();
+    menu->setRevertible(document.fileURL.has_value());
+    connect(menu, &FileMenu::saveRequested, this,
+            [this, &document] { save(document, &DocumentSaver::save); });
+    connect(menu, &FileMenu::saveAsRequested, this,
+            [this, &document] { save(document, &DocumentSaver::saveAs); });
+    connect(menu, &FileMenu::revertRequested, this, [this, &document] { revert(document); });
+    connect(menu, &FileMenu::printRequested, this,
+            [this, window] { services_.print(*window, *window->panes()); });
+    window->setCloseQuestion([this, &document] { return quitting_ || mayClose(document); });
+}
+
+bool DocumentController::save(OpenedDocument& document, bool (DocumentSaver::*command)(OpenedDocument&)) {
+    if (!(saver_.*command)(document)) return false;
+    windowOf(document)->fileMenu()->setRevertible(true);
+    noteFile(document);
+    return true;
+}
+
+bool DocumentController::mayClose(OpenedDocument& document) {
+    DocumentWindow& window = *windowOf(document);
+    if (!window.isEdited()) return true;
+    bringForward(window);
+    switch (services_.questions.askToSave(window, window.displayName())) {
+    case UnsavedAnswer::save:
+        return save(document, &DocumentSaver::save);
+    case UnsavedAnswer::discard:
+        return true;
+    case UnsavedAnswer::cancel:
+        break;
+    }
+    return false;
+}
+
+void DocumentController::noteFile(const OpenedDocument& document) {
+    services_.remembered.noteOpened(pathOf(document));
+    rememberSession();
+}
+
+void DocumentController::rememberSession() {
+    QStringList paths;
+    for (const auto& document : documents_)
+        if (document->fileURL && isOpen(*document)) paths.append(pathOf(*document));
+    services_.remembered.setSession(paths);
+}
+
+// The window that closes last ends the program: what it showed is what was open at the end.
 void DocumentController::dropClosed() {
     std::erase_if(documents_, [](const auto& document) { return !isOpen(*document); });
+    if (!documents_.empty() && !quitting_) rememberSession();
 }
 
 } // namespace lexiform::qt

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "document/Document.h"
+#include "platform/qt/documents/DocumentSaver.h"
 #include "platform/qt/documents/OpenFailure.h"
+#include "platform/qt/documents/OpenedDocument.h"
+#include "platform/qt/documents/RememberedFiles.h"
 
 #include <QObject>
 #include <QStringList>
@@ -12,16 +14,32 @@
 
 namespace lexiform::qt {
 
+class DocumentPanes;
+
 /// Asks the user for files to open; empty when there are none.
 using FileChooser = std::function<QStringList()>;
+/// Lets the user print what a window shows.
+using PanesPrinter = std::function<void(QWidget& window, const DocumentPanes& panes)>;
 
-/// The document machinery: makes documents, new or from files, with their windows, and keeps them
-/// until their windows close.
+/// What the document machinery asks of a person and of the disk. The references must outlive it.
+struct DocumentServices {
+    FailurePresenter present;
+    FileChooser choose;
+    DocumentQuestions& questions;
+    RememberedFiles& remembered;
+    FileSaver save;
+    PanesPrinter print;
+};
+
+/// The document machinery: makes documents, new or from files, with their windows, keeps them until their
+/// windows close, and does what their File menus ask for.
 class DocumentController : public QObject {
     Q_OBJECT
 
 public:
-    DocumentController(std::shared_ptr<Storyboard> storyboard, FailurePresenter present, FileChooser choose);
+    using Documents = std::vector<std::shared_ptr<OpenedDocument>>;
+
+    DocumentController(std::shared_ptr<Storyboard> storyboard, DocumentServices services);
 
     /// Opens an untitled window.
     void newDocument();
@@ -30,21 +48,32 @@ public:
     bool open(const QStringList& paths);
     /// Lets the user choose what to open.
     void openChosen();
+    /// Goes back to what the document's file holds, which by rule does not reach the input pane.
+    void revert(OpenedDocument& document);
+    /// Closes all windows and ends the program, unless the person keeps an edited document from it.
+    void quit();
 
     /// The open documents, in the order of opening.
-    [[nodiscard]] const std::vector<std::shared_ptr<Document>>& documents() const { return documents_; }
+    [[nodiscard]] const Documents& documents() const { return documents_; }
 
 private:
-    Outcome<std::shared_ptr<Document>, OpenFault> read(const QString& path);
-    [[nodiscard]] Document* openedFrom(const QString& path) const;
+    Outcome<std::shared_ptr<OpenedDocument>, OpenFault> read(const QString& path);
+    [[nodiscard]] OpenedDocument* openedFrom(const QString& path) const;
     [[nodiscard]] QString untitledName() const;
-    void show(const std::shared_ptr<Document>& document, const QString& name);
+    void show(const std::shared_ptr<OpenedDocument>& document, const QString& name);
+    void connectWindow(OpenedDocument& document);
+    void connectSaving(OpenedDocument& document);
+    bool save(OpenedDocument& document, bool (DocumentSaver::*command)(OpenedDocument&));
+    bool mayClose(OpenedDocument& document);
+    void noteFile(const OpenedDocument& document);
+    void rememberSession();
     void dropClosed();
 
     std::shared_ptr<Storyboard> storyboard_;
-    FailurePresenter present_;
-    FileChooser choose_;
-    std::vector<std::shared_ptr<Document>> documents_;
+    DocumentServices services_;
+    DocumentSaver saver_;
+    Documents documents_;
+    bool quitting_ = false;
 };
 
 } // namespace lexiform::qt

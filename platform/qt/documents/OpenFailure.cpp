@@ -35,6 +35,8 @@ QString reasonOf(OpenFault fault) {
         return tr("It could not be read to its end.");
     case OpenFault::refused:
         return tr("The file is empty.");
+    case OpenFault::cancelled:
+        return tr("Reading it was stopped.");
     }
     return {};
 }

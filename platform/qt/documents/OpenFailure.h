@@ -9,7 +9,16 @@
 namespace lexiform::qt {
 
 /// Why a file did not become a document.
-enum class OpenFault : std::uint8_t { missing, folder, notAFile, notAllowed, tooLarge, unreadable, refused };
+enum class OpenFault : std::uint8_t {
+    missing,
+    folder,
+    notAFile,
+    notAllowed,
+    tooLarge,
+    unreadable,
+    refused,
+    cancelled
+};
 
 /// A file that could not be opened.
 struct OpenFailure {

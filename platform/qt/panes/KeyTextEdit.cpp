@@ -5,6 +5,7 @@
 #include "platform/qt/theme/Appearance.h"
 
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QTextBlock>
 
@@ -36,6 +37,30 @@ void KeyTextEdit::paintEvent(QPaintEvent* event) {
     }
     painter.end();
     PaneTextEdit::paintEvent(event);
+}
+
+QString KeyTextEdit::meaningOf(Colour colour) const {
+    const int line = static_cast<int>(colour);
+    return line < classColours ? document()->findBlockByNumber(2 * line).text() : QString();
+}
+
+void KeyTextEdit::mouseReleaseEvent(QMouseEvent* event) {
+    PaneTextEdit::mouseReleaseEvent(event);
+    // Whoever drags selects text of the key.
+    if (event->button() == Qt::LeftButton && !textCursor().hasSelection()) choose(textCursor());
+}
+
+void KeyTextEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        choose(textCursor());
+    else
+        PaneTextEdit::keyPressEvent(event);
+}
+
+void KeyTextEdit::choose(const QTextCursor& cursor) {
+    const int block = cursor.blockNumber();
+    if (block % 2 != 0 || block / 2 >= classColours || cursor.block().length() <= 1) return;
+    emit chosen(static_cast<Colour>(block / 2));
 }
 
 // Centred on the middle of a capital in the block's first visual line.

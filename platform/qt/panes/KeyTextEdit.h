@@ -15,10 +15,20 @@ public:
 
     explicit KeyTextEdit(QWidget* parent = nullptr);
 
+    /// What the key says of a colour: its line, empty for a colour without one.
+    [[nodiscard]] QString meaningOf(Colour colour) const;
+
+signals:
+    /// A line that has a swatch was clicked, or Enter pressed in it.
+    void chosen(Colour colour);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void choose(const QTextCursor& cursor);
     void paintSwatch(QPainter& painter, int line, const QTextBlock& block) const;
 };
 

@@ -22,6 +22,7 @@ AttributedText OutputTextEdit::attributedText() const {
 }
 
 void OutputTextEdit::prepareReplacement(const AttributedText& text, const TextBlocks& blocks) {
+    only_.reset();
     runs_.clear();
     runs_.append(text);
     length_ = text.string().size();
@@ -37,6 +38,23 @@ void OutputTextEdit::prepareAddition(const AttributedText& text, const TextBlock
     coloured_.back() = false;
     coloured_.resize(blockStarts_.size(), false);
     length_ += text.string().size();
+}
+
+void OutputTextEdit::toggleOnly(Colour colour) {
+    only_ = only_ == colour ? std::nullopt : std::optional(colour);
+    forgetPaintedColours();
+}
+
+std::optional<Colour> OutputTextEdit::colourAt(int position) const {
+    const QTextBlock block = document()->findBlock(position);
+    const auto number = static_cast<std::size_t>(block.blockNumber());
+    if (!block.isValid() || number >= blockStarts_.size()) return std::nullopt;
+    std::optional<Colour> found;
+    const qsizetype at = position - block.position();
+    runs_.visit(blockStarts_[number], block.text(), [&](qsizetype start, qsizetype length, Colour colour) {
+        if (start <= at && at < start + length) found = colour;
+    });
+    return found;
 }
 
 void OutputTextEdit::changeEvent(QEvent* event) {
@@ -64,9 +82,11 @@ QList<QTextLayout::FormatRange> OutputTextEdit::formatsOf(const QTextBlock& bloc
     const QString text = block.text();
     QList<QTextLayout::FormatRange> formats;
     const auto add = [&](qsizetype start, qsizetype length, Colour colour) {
-        if (colour == Colour::text) return;
+        const bool isDimmed = only_ && colour != *only_;
+        if (colour == Colour::text && !isDimmed) return;
         QTextLayout::FormatRange range{static_cast<int>(start), static_cast<int>(length), {}};
-        range.format.setForeground(valueOf(colour, appearance));
+        range.format.setForeground(isDimmed ? surfacesOf(appearance).disabledText
+                                            : valueOf(colour, appearance));
         formats.push_back(range);
     };
     runs_.visit(blockStarts_[static_cast<std::size_t>(block.blockNumber())], text, add);

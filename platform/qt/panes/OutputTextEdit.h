@@ -25,6 +25,12 @@ public:
     /// end and at the end of a block.
     [[nodiscard]] std::optional<QColor> paintedColourAt(int position) const;
     [[nodiscard]] AttributedText attributedText() const override;
+    /// The colour of the character at a position of the document, whatever it is painted in.
+    [[nodiscard]] std::optional<Colour> colourAt(int position) const;
+
+    /// Dims all that is not in `colour`, on the screen alone; asked for the same again, or given another
+    /// text, shows all again.
+    void toggleOnly(Colour colour);
 
 protected:
     void prepareReplacement(const AttributedText& text, const TextBlocks& blocks) override;
@@ -39,6 +45,7 @@ private:
     [[nodiscard]] AttributedText colouredSelection() const;
 
     ColourRuns runs_;
+    std::optional<Colour> only_;           ///< the colour that is not dimmed, if others are
     std::size_t length_ = 0;               ///< of the whole text, in bytes
     std::vector<std::size_t> blockStarts_; ///< the byte at which each block begins
     std::vector<bool> coloured_;           ///< which blocks have their colours

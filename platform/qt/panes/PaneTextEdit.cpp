@@ -205,6 +205,7 @@ void PaneTextEdit::mouseDoubleClickEvent(QMouseEvent* event) {
     QMouseEvent onLine = moved(*event, onNearestLine(event->position()));
     QPlainTextEdit::mouseDoubleClickEvent(&onLine);
     event->setAccepted(onLine.isAccepted());
+    if (event->button() == Qt::LeftButton) emit lineDoubleClicked(textCursor().block().text());
 }
 
 // Between two lines there is a gap in which the editor would take a click for one at the line's end.

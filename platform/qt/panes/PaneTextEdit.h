@@ -54,6 +54,8 @@ public:
 signals:
     /// The user has made the text larger or smaller.
     void zoomed();
+    /// A line of the text was clicked twice.
+    void lineDoubleClicked(const QString& line);
 
 protected:
     PaneTextEdit(const QMargins& margins, QWidget* parent);

@@ -17,27 +17,15 @@ constexpr int barHeight = 30;
 
 DocumentMenuBar::DocumentMenuBar(const TextActions& actions, const PaneCommands& panes,
                                  const WindowServices& services, QWidget* window)
-    : QMenuBar(window), editMenu_(new EditMenu(panes.places(), window)) {
+    : QMenuBar(window), fileMenu_(new FileMenu(window)), editMenu_(new EditMenu(panes.places(), window)) {
     setMinimumHeight(barHeight);
-    addFileMenu();
+    addMenu(fileMenu_);
     addMenu(editMenu_);
     addTextMenu(actions);
     addViewMenu(panes, services);
     addToolsMenu(services);
     addMenu(new WindowMenu(services.windows, window));
     addHelpMenu(services);
-}
-
-void DocumentMenuBar::addFileMenu() {
-    QMenu* menu = addMenu(tr("&File"));
-    menu->addAction(tr("&New"), QKeySequence::New, this, &DocumentMenuBar::newRequested);
-    menu->addAction(tr("&Open…"), QKeySequence::Open, this, &DocumentMenuBar::openRequested);
-    menu->addSeparator();
-    menu->addAction(tr("&Close"), Qt::CTRL | Qt::Key_W, window(), &QWidget::close);
-    // Queued: the menu closes before its window does.
-    QAction* quit = menu->addAction(tr("&Quit"));
-    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
-    connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
 void DocumentMenuBar::addTextMenu(const TextActions& actions) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/qt/windows/EditMenu.h"
+#include "platform/qt/windows/FileMenu.h"
 #include "platform/qt/windows/PaneCommands.h"
 #include "platform/qt/windows/TextActions.h"
 #include "platform/qt/windows/WindowServices.h"
@@ -9,8 +10,7 @@
 
 namespace lexiform::qt {
 
-/// The menus of a document window. What concerns the window alone they do themselves; what concerns
-/// documents they ask for.
+/// The menus of a document window.
 class DocumentMenuBar : public QMenuBar {
     Q_OBJECT
 
@@ -19,18 +19,15 @@ public:
                     QWidget* window);
 
     [[nodiscard]] EditMenu* editMenu() const { return editMenu_; }
-
-signals:
-    void newRequested();
-    void openRequested();
+    [[nodiscard]] FileMenu* fileMenu() const { return fileMenu_; }
 
 private:
-    void addFileMenu();
     void addTextMenu(const TextActions& actions);
     void addViewMenu(const PaneCommands& panes, const WindowServices& services);
     void addToolsMenu(const WindowServices& services);
     void addHelpMenu(const WindowServices& services);
 
+    FileMenu* fileMenu_;
     EditMenu* editMenu_;
 };
 

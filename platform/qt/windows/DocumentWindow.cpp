@@ -1,8 +1,10 @@
 #include "platform/qt/windows/DocumentWindow.h"
 
 #include "platform/qt/windows/DocumentMenuBar.h"
+#include "platform/qt/windows/FileDropTarget.h"
 #include "platform/qt/windows/ScreenAppearance.h"
 #include "platform/qt/windows/WaitCursor.h"
+#include "platform/qt/windows/connectPanes.h"
 #include "platform/qt/windows/wordCount.h"
 
 #include <QCloseEvent>
@@ -44,7 +46,16 @@ void DocumentWindow::setDisplayName(const QString& name) {
     setWindowTitle(QString(name).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
 }
 
+bool DocumentWindow::isEdited() const {
+    return panes_->input()->document()->isModified();
+}
+
+void DocumentWindow::markSaved() {
+    panes_->input()->document()->setModified(false);
+}
+
 void DocumentWindow::closeEvent(QCloseEvent* event) {
+    if (mayClose_ && !mayClose_()) return event->ignore();
     if (!isFullScreen() && !isMaximized()) store_.setWindowSize(size());
     QMainWindow::closeEvent(event);
     if (event->isAccepted()) emit closed();
@@ -52,8 +63,7 @@ void DocumentWindow::closeEvent(QCloseEvent* event) {
 
 void DocumentWindow::buildBars(const WindowServices& services) {
     auto* menus = new DocumentMenuBar(actions_, paneCommands_, services, this);
-    connect(menus, &DocumentMenuBar::newRequested, this, &DocumentWindow::newRequested);
-    connect(menus, &DocumentMenuBar::openRequested, this, &DocumentWindow::openRequested);
+    fileMenu_ = menus->fileMenu();
     for (PaneTextEdit* pane : panes_->all())
         menus->editMenu()->serveAsContextMenuOf(*pane);
     setMenuBar(menus);
@@ -84,6 +94,10 @@ void DocumentWindow::connectCommands() {
             item == standardTypesItem ? &DocumentWindow::showParsed : nullptr);
     });
     connect(panes_->input(), &QPlainTextEdit::textChanged, this, &DocumentWindow::showUnparsed);
+    connect(panes_->input()->document(), &QTextDocument::modificationChanged, statusLine_,
+            &StatusLine::showEdited);
+    connect(new FileDropTarget(*this), &FileDropTarget::dropped, this, &DocumentWindow::filesDropped);
+    connectPanes(*panes_, paneCommands_.find());
     connect(panes_, &PaneSplitter::arranged, this,
             [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
 }

@@ -4,6 +4,7 @@
 #include "platform/qt/windows/ControlOutlets.h"
 #include "platform/qt/windows/DocumentPanes.h"
 #include "platform/qt/windows/DocumentToolBar.h"
+#include "platform/qt/windows/FileMenu.h"
 #include "platform/qt/windows/FindBar.h"
 #include "platform/qt/windows/PaneCommands.h"
 #include "platform/qt/windows/StatusLine.h"
@@ -12,6 +13,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 namespace lexiform::qt {
@@ -29,6 +31,14 @@ public:
     void setDisplayName(const QString& name);
     [[nodiscard]] QString displayName() const { return displayName_; }
 
+    /// Asked before the window closes, which it does not when the answer is false.
+    void setCloseQuestion(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
+
+    /// Whether a person has changed the input pane since it was filled or last marked as saved.
+    [[nodiscard]] bool isEdited() const;
+    void markSaved();
+
+    [[nodiscard]] FileMenu* fileMenu() const { return fileMenu_; }
     [[nodiscard]] const TextActions& textActions() const { return actions_; }
     [[nodiscard]] DocumentPanes* panes() const { return panes_; }
     [[nodiscard]] DocumentToolBar* toolBar() const { return toolBar_; }
@@ -36,8 +46,8 @@ public:
     [[nodiscard]] FindBar* findBar() const { return findBar_; }
 
 signals:
-    void newRequested();
-    void openRequested();
+    /// Files were dropped on the window.
+    void filesDropped(const QStringList& paths);
     /// The window has been closed and is about to leave the screen.
     void closed();
 
@@ -67,6 +77,8 @@ private:
     FindBar* findBar_;
     PaneCommands paneCommands_;
     StatusLine* statusLine_;
+    FileMenu* fileMenu_ = nullptr;
+    std::function<bool()> mayClose_;
     ControlOutlets outlets_;
     QString displayName_;
 };

@@ -68,6 +68,14 @@ FindQuery FindBar::query() const {
             .isRegularExpression = expression_->isChecked()};
 }
 
+void FindBar::setQuery(const FindQuery& query) {
+    const QSignalBlocker blocker(this);
+    wanted_->setText(query.wanted);
+    matchCase_->setChecked(query.matchesCase);
+    wholeWord_->setChecked(query.wholeWord);
+    expression_->setChecked(query.isRegularExpression);
+}
+
 void FindBar::open(const QString& pane, const QString& suggestion) {
     setPane(pane);
     if (!suggestion.isEmpty()) wanted_->setText(suggestion);

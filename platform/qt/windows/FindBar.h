@@ -24,6 +24,8 @@ public:
     /// Shows the bar with the keyboard in it, and says which pane is searched. A `suggestion` takes the
     /// place of what was entered before, unless it is empty.
     void open(const QString& pane, const QString& suggestion);
+    /// Enters a query, without the news of it.
+    void setQuery(const FindQuery& query);
     void setPane(const QString& pane);
 
     /// Says how the search went. The words alone carry the meaning.

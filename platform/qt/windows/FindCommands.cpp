@@ -45,6 +45,14 @@ void FindCommands::openBar() {
     searchAsTyped();
 }
 
+void FindCommands::findWord(const QString& word, PaneTextEdit* pane) {
+    focus_.turnTo(pane);
+    bar_.setQuery({.wanted = word, .wholeWord = true});
+    forgetMatches();
+    bar_.show();
+    goToNext();
+}
+
 // What is selected in one line is likely to be what is looked for.
 QString FindCommands::suggestion() const {
     const QString selected = focus_.pane()->textCursor().selectedText();

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] QList<QAction*> views() const;
 
     [[nodiscard]] PaneFocus& focus() { return focus_; }
-    [[nodiscard]] const FindCommands& find() const { return *find_; }
+    [[nodiscard]] FindCommands& find() const { return *find_; }
 
 private:
     PaneFocus& focus_;

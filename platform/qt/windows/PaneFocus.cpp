@@ -10,7 +10,11 @@ PaneFocus::PaneFocus(QWidget* window, PaneTextEdit* first) : QObject(window), wi
 
 void PaneFocus::follow(QWidget* focused) {
     auto* pane = qobject_cast<PaneTextEdit*>(focused);
-    if (!pane || pane == pane_ || pane->window() != window_) return;
+    if (pane && pane->window() == window_) turnTo(pane);
+}
+
+void PaneFocus::turnTo(PaneTextEdit* pane) {
+    if (pane == pane_) return;
     pane_ = pane;
     emit changed();
 }

@@ -19,6 +19,9 @@ public:
     /// Null once the panes are gone.
     [[nodiscard]] PaneTextEdit* pane() const { return pane_; }
 
+    /// Commands go to `pane` from now on, though the keyboard stays where it is.
+    void turnTo(PaneTextEdit* pane);
+
 signals:
     void changed();
 

@@ -8,19 +8,25 @@ namespace lexiform::qt {
 namespace {
 
 constexpr int lineHeight = 30;
+constexpr int trailingInset = 20;
 constexpr int leadingInset = 30; // a status bar itself adds the rest to the window's left text edge
 
 } // namespace
 
-StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent), label_(new QLabel(this)) {
+StatusLine::StatusLine(QWidget* parent)
+    : QStatusBar(parent), label_(new QLabel(this)), edited_(new QLabel(this)) {
     setSizeGripEnabled(false);
     setMinimumHeight(lineHeight);
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() - 1);
-    label_->setFont(font);
-    label_->setForegroundRole(QPalette::PlaceholderText);
+    for (QLabel* label : {label_, edited_}) {
+        label->setFont(font);
+        label->setForegroundRole(QPalette::PlaceholderText);
+    }
     label_->setContentsMargins(leadingInset, 0, 0, 0);
+    edited_->setContentsMargins(0, 0, trailingInset, 0);
     addWidget(label_, 1);
+    addPermanentWidget(edited_);
 }
 
 void StatusLine::showParsed(std::int64_t words) {
@@ -42,6 +48,10 @@ void StatusLine::showUnparsed() {
 
 void StatusLine::showNothing() {
     label_->clear();
+}
+
+void StatusLine::showEdited(bool edited) {
+    edited_->setText(edited ? tr("Edited") : QString());
 }
 
 } // namespace lexiform::qt

@@ -21,13 +21,17 @@ public:
     /// The input pane holds what no pass has seen.
     void showUnparsed();
     void showNothing();
+    /// Marks the document as edited, whatever else the line shows.
+    void showEdited(bool edited);
 
     [[nodiscard]] QString text() const { return label_->text(); }
+    [[nodiscard]] bool showsEdited() const { return !edited_->text().isEmpty(); }
 
 private:
     [[nodiscard]] static QString counted(std::int64_t words);
 
     QLabel* label_;
+    QLabel* edited_;
 };
 
 } // namespace lexiform::qt

@@ -8,6 +8,7 @@
 #include "platform/qt/documents/SceneStoryboard.h"
 #include "platform/qt/windows/DocumentWindow.h"
 #include "platform/qt/windows/documentScene.h"
+#include "tests/platform/qt/windows/support/NotedQuestions.h"
 #include "tests/support/PlainDoubles.h"
 #include "tests/support/ScriptedTagger.h"
 
@@ -28,9 +29,16 @@ public:
     explicit DesktopUnderTest(const QString& stateFile = {})
         : stateFile_(stateFile.isEmpty() ? folder_.filePath("state.ini") : stateFile), store(stateFile_),
           theme(*qApp, AppearanceChoice::light), storyboard(std::make_shared<SceneStoryboard>()),
+          remembered(folder_.filePath("documents.ini")),
           documents(
-              storyboard, [this](const auto& failures) { told.push_back(failures); },
-              [this] { return chosen; }) {
+              storyboard,
+              {.present = [this](const auto& failures) { told.push_back(failures); },
+               .choose = [this] { return chosen; },
+               .questions = questions,
+               .remembered = remembered,
+               .save = [this](const QString& path, std::string_view bytes) { return save(path, bytes); },
+               .print = [this](QWidget& window,
+                               const DocumentPanes&) { printed.append(window.windowTitle()); }}) {
         storyboard->addScene(std::string(documentSceneIdentifier), [this] { return makeScene(); });
     }
 
@@ -45,7 +53,7 @@ public:
 
     std::shared_ptr<SceneController> makeScene() {
         return makeDocumentScene(makeTagger ? makeTagger : scriptedTaggers(script, tagger),
-                                 {theme, store, windows, analysis});
+                                 {theme, store, windows, analysis, application});
     }
 
     [[nodiscard]] static DocumentWindow& windowOf(const Document& document) {
@@ -78,10 +86,15 @@ public:
     /// Every save panel that was opened and is not gone.
     std::vector<std::weak_ptr<QtSavePanel>> panels;
     AnalysisServices analysis{defaults, [this] { return makePanel(); }, std::make_shared<QtFileWriter>()};
+    /// The commands of the application, when its menus are to have them.
+    const ApplicationActions* application = nullptr;
     /// In the place of the taggers that know `script`.
     TaggerFactory makeTagger;
     std::vector<std::vector<OpenFailure>> told;
     QStringList chosen;
+    NotedQuestions questions;
+    FileSaver save = saveFile;
+    QStringList printed;
 
 private:
     std::shared_ptr<SavePanel> makePanel() {
@@ -98,6 +111,7 @@ public:
     Theme theme;
     WindowList windows;
     std::shared_ptr<SceneStoryboard> storyboard;
+    RememberedFiles remembered;
     DocumentController documents;
 };
 

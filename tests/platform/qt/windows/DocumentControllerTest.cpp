@@ -165,13 +165,13 @@ TEST_F(DocumentControllerTest, knowsAFileByAnotherPath) {
 TEST_F(DocumentControllerTest, opensTheFilesThatTheUserChooses) {
     desktop.chosen = {desktop.file("a.txt", "The cat"), desktop.file("b.txt", "sat")};
     desktop.documents.newDocument();
-    emit desktop.window().openRequested();
+    emit desktop.window().fileMenu()->openRequested();
     EXPECT_EQ(openCount(), 3U);
 }
 
 TEST_F(DocumentControllerTest, opensNothingWhenTheUserChoosesNothing) {
     desktop.documents.newDocument();
-    emit desktop.window().openRequested();
+    emit desktop.window().fileMenu()->openRequested();
     EXPECT_EQ(openCount(), 1U);
     EXPECT_TRUE(desktop.told.empty());
 }

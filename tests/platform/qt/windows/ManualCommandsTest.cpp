@@ -1,3 +1,4 @@
+#include "platform/qt/windows/ApplicationActions.h"
 #include "tests/platform/qt/windows/DesktopUnderTest.h"
 
 #include <QMenuBar>
@@ -48,6 +49,7 @@ class ManualCommandsTest : public testing::Test {
 protected:
     // The commands of every menu but the list of windows, which names documents.
     ManualCommandsTest() {
+        desktop.application = &actions;
         desktop.documents.newDocument();
         for (const QAction* menu : desktop.window().menuBar()->actions())
             if (withoutMnemonic(menu->text()) != QStringLiteral("Window"))
@@ -58,6 +60,8 @@ protected:
         return command.menu + QStringLiteral(": ") + command.title;
     }
 
+    QObject owner;
+    ApplicationActions actions = makeApplicationActions(&owner);
     DesktopUnderTest desktop;
     QHash<QString, const QAction*> found;
 };

@@ -1,0 +1,84 @@
+#include "platform/qt/documents/DialogQuestions.h"
+
+#include "platform/qt/documents/FileTypeDialog.h"
+#include "platform/qt/windows/messageBox.h"
+
+#include <QCoreApplication>
+#include <QPushButton>
+
+namespace lexiform::qt {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("DocumentQuestions", text);
+}
+
+// True when the person chose to go on. What is safe is the default.
+bool confirms(QWidget& window, const QString& question, const QString& details, const QString& goOn) {
+    QMessageBox box(&window);
+    fillMessageBox(box, question, details);
+    const QPushButton* yes = box.addButton(goOn, QMessageBox::DestructiveRole);
+    box.setDefaultButton(box.addButton(QMessageBox::Cancel));
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+} // namespace
+
+UnsavedAnswer DialogQuestions::askToSave(QWidget& window, const QString& name) {
+    QMessageBox box(&window);
+    fillMessageBox(box, tr("Save the changes to “%1”?").arg(name),
+                   tr("They are lost if they are not saved."));
+    const QAbstractButton* save = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
+    const QAbstractButton* discard = box.addButton(tr("&Don’t Save"), QMessageBox::DestructiveRole);
+    box.addButton(QMessageBox::Cancel);
+    box.exec();
+    if (box.clickedButton() == save) return UnsavedAnswer::save;
+    return box.clickedButton() == discard ? UnsavedAnswer::discard : UnsavedAnswer::cancel;
+}
+
+OtherTextAnswer DialogQuestions::askToSaveOtherText(QWidget& window, const QString& name) {
+    QMessageBox box(&window);
+    fillMessageBox(box, tr("Replace the text of “%1” with the output pane?").arg(name),
+                   tr("What is saved is the output pane, which holds other characters than the text. "
+                      "Parsing again puts the text there."));
+    const QAbstractButton* saveAs = box.addButton(tr("Save &As…"), QMessageBox::AcceptRole);
+    const QAbstractButton* replace = box.addButton(tr("&Replace"), QMessageBox::DestructiveRole);
+    box.addButton(QMessageBox::Cancel);
+    box.exec();
+    if (box.clickedButton() == saveAs) return OtherTextAnswer::saveAs;
+    return box.clickedButton() == replace ? OtherTextAnswer::replace : OtherTextAnswer::cancel;
+}
+
+bool DialogQuestions::askToSaveWithoutEdits(QWidget& window, const QString& name) {
+    return confirms(
+        window, tr("Save “%1” without its latest changes?").arg(name),
+        tr("What is saved is the output pane, which does not show them. Parsing puts them there."),
+        tr("&Save Without"));
+}
+
+bool DialogQuestions::askToOverwriteChange(QWidget& window, const QString& name) {
+    return confirms(window, tr("“%1” was changed by another program.").arg(name),
+                    tr("Saving replaces what it holds now."), tr("&Replace"));
+}
+
+bool DialogQuestions::askToRevert(QWidget& window, const QString& name) {
+    return confirms(window, tr("Go back to “%1” as it was saved?").arg(name),
+                    tr("The document then counts as unchanged. Its input pane keeps its text."),
+                    tr("Re&vert"));
+}
+
+std::optional<SaveTarget> DialogQuestions::chooseTarget(QWidget& window, const SaveTarget& proposal) {
+    FileTypeDialog dialog(window, proposal);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.target();
+}
+
+void DialogQuestions::tellNotSaved(QWidget& window, const QString& name, const QString& reason) {
+    QMessageBox box(&window);
+    fillMessageBox(box, tr("The document “%1” could not be saved.").arg(name), reason);
+    box.exec();
+}
+
+} // namespace lexiform::qt

@@ -1,0 +1,36 @@
+#include "platform/qt/documents/saveFile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace lexiform::qt {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("saveFile", text);
+}
+
+SaveFault faultOf(const QSaveFile& file) {
+    return {tr("%1.").arg(file.errorString())};
+}
+
+} // namespace
+
+Outcome<Done, SaveFault> saveFile(const QString& path, std::string_view bytes) {
+    const QFileInfo info(path);
+    if (info.isDir()) return SaveFault{tr("There is a folder of that name.")};
+    if (info.exists() && !info.isFile()) return SaveFault{tr("It is not an ordinary file.")};
+    if (info.exists() && !info.isWritable()) return SaveFault{tr("The file may only be read.")};
+    if (!info.absoluteDir().exists()) return SaveFault{tr("Its folder is no longer there.")};
+
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return faultOf(file);
+    const auto size = static_cast<qint64>(bytes.size());
+    if (file.write(bytes.data(), size) != size || !file.commit()) return faultOf(file);
+    return Done{};
+}
+
+} // namespace lexiform::qt

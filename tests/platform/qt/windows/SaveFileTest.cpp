@@ -1,0 +1,143 @@
+#include "platform/qt/documents/saveFile.h"
+
+#include "document/Document.h"
+#include "platform/qt/documents/FileType.h"
+#include "platform/qt/documents/RememberedFiles.h"
+#include "platform/qt/documents/readInBackground.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QProgressDialog>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+
+#include <csignal>
+#include <thread>
+
+namespace lexiform::qt {
+namespace {
+
+class SaveFile : public testing::Test {
+protected:
+    QString file(const QString& name, const QByteArray& bytes) {
+        QFile made(folder.filePath(name));
+        if (made.open(QIODevice::WriteOnly)) made.write(bytes);
+        return made.fileName();
+    }
+    static QByteArray contentOf(const QString& path) {
+        QFile read(path);
+        return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray("no file");
+    }
+    [[nodiscard]] QStringList names() const {
+        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(SaveFile, replacesAFileAndKeepsItsPermissions) {
+    const QString path = file("a.txt", "old");
+    const auto mode = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QFile::setPermissions(path, mode);
+    EXPECT_TRUE(saveFile(path, "new").succeeded());
+    EXPECT_EQ(contentOf(path), "new");
+    EXPECT_EQ(QFile::permissions(path), mode);
+    EXPECT_EQ(names(), QStringList{"a.txt"});
+}
+
+TEST_F(SaveFile, followsALinkAndLeavesIt) {
+    const QString path = file("a.txt", "old");
+    const QString link = folder.filePath("link.txt");
+    QFile::link(path, link);
+    EXPECT_TRUE(saveFile(link, "new").succeeded());
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(contentOf(path), "new");
+}
+
+// A limit on the size of files stands for a disk that fills up while the draft is written.
+TEST_F(SaveFile, leavesTheOldFileAndNoDraftWhenTheDiskIsFull) {
+    const QString path = file("a.txt", "old");
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit tight{1000, usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+    const auto outcome = saveFile(path, std::string(100'000, 'x'));
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_FALSE(outcome.succeeded());
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_EQ(names(), QStringList{"a.txt"});
+}
+
+TEST_F(SaveFile, refusesAFolderAndAPlaceThatIsGone) {
+    const auto intoFolder = saveFile(folder.path(), "new");
+    ASSERT_FALSE(intoFolder.succeeded());
+    EXPECT_EQ(intoFolder.fault().reason, "There is a folder of that name.");
+    const auto nowhere = saveFile(folder.filePath("gone/a.txt"), "new");
+    ASSERT_FALSE(nowhere.succeeded());
+    EXPECT_EQ(nowhere.fault().reason, "Its folder is no longer there.");
+}
+
+TEST(FileType, goesByTheExtensionAndElseByTheBytes) {
+    EXPECT_EQ(typeOfFile("a.TXT", "caf\xE9"), plainTextType);
+    EXPECT_EQ(typeOfFile("a.rtf", "The cat"), richTextType);
+    EXPECT_EQ(typeOfFile("README", "The cat"), plainTextType);
+    EXPECT_EQ(typeOfFile("README", "{\\rtf1 caf\xE9}"), richTextType);
+    EXPECT_EQ(typeOfFile("README", "caf\xE9"), "public.text");
+    EXPECT_FALSE(isWritable(typeOfFile("a.docx", "PK")));
+    EXPECT_FALSE(isWritable(typeOfFile("README", "caf\xE9")));
+}
+
+TEST_F(SaveFile, remembersFilesForOtherInstancesAndWithoutAStore) {
+    const QString store = file("documents.ini", QByteArray("\0\xFF[files\n=;recent==,,", 21));
+    RememberedFiles one(store);
+    RememberedFiles other(store);
+    EXPECT_EQ(one.recent(), QStringList());
+    EXPECT_FALSE(one.reopens());
+    const QString a = file("a.txt", "a");
+    const QString b = file("b.txt", "b");
+    one.noteOpened(a);
+    other.noteOpened(b);
+    one.noteOpened(a);
+    EXPECT_EQ(other.recent(), (QStringList{a, b}));
+    one.setReopens(true);
+    one.setSession({a, folder.filePath("gone.txt")});
+    EXPECT_TRUE(other.reopens());
+    EXPECT_EQ(other.session(), QStringList{a});
+}
+
+TEST(ReadInBackground, letsThePersonCancelASlowDisk) {
+    const auto slow = [](const QString&, const ReadObserver& goesOn) -> Outcome<std::string, OpenFault> {
+        while (goesOn(1, 100))
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        return OpenFault::cancelled;
+    };
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, [] {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* progress = qobject_cast<QProgressDialog*>(window)) emit progress->canceled();
+    });
+    person.start(20);
+    const auto outcome = readInBackground("slow.txt", slow, std::chrono::milliseconds(10));
+    ASSERT_FALSE(outcome.succeeded());
+    EXPECT_EQ(outcome.fault(), OpenFault::cancelled);
+}
+
+TEST(ReadInBackground, givesTheBytesOfADiskThatTakesItsTime) {
+    const auto late = [](const QString&, const ReadObserver&) -> Outcome<std::string, OpenFault> {
+        std::this_thread::sleep_for(std::chrono::milliseconds(120));
+        return std::string("The cat");
+    };
+    const auto outcome = readInBackground("late.txt", late, std::chrono::milliseconds(10));
+    ASSERT_TRUE(outcome.succeeded());
+    EXPECT_EQ(outcome.value(), "The cat");
+}
+
+} // namespace
+} // namespace lexiform::qt

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/qt/documents/DocumentQuestions.h"
+
+#include <QStringList>
+
+#include <deque>
+#include <optional>
+
+namespace lexiform::qt {
+
+/// Answers as the test sets it, and notes what it was asked, in order.
+class NotedQuestions : public DocumentQuestions {
+public:
+    UnsavedAnswer askToSave(QWidget& /*window*/, const QString& name) override {
+        asked.append("save " + name + "?");
+        return unsaved;
+    }
+    OtherTextAnswer askToSaveOtherText(QWidget& /*window*/, const QString& name) override {
+        asked.append("other text into " + name + "?");
+        return otherText;
+    }
+    bool askToSaveWithoutEdits(QWidget& /*window*/, const QString& name) override {
+        asked.append(name + " without edits?");
+        return confirms;
+    }
+    bool askToOverwriteChange(QWidget& /*window*/, const QString& name) override {
+        asked.append("overwrite changed " + name + "?");
+        return confirms;
+    }
+    bool askToRevert(QWidget& /*window*/, const QString& name) override {
+        asked.append("revert " + name + "?");
+        return confirms;
+    }
+    std::optional<SaveTarget> chooseTarget(QWidget& /*window*/, const SaveTarget& offered) override {
+        asked.append("where?");
+        proposal = offered;
+        return target;
+    }
+    void tellNotSaved(QWidget& /*window*/, const QString& name, const QString& reason) override {
+        failures.append(name + ": " + reason);
+    }
+
+    UnsavedAnswer unsaved = UnsavedAnswer::discard;
+    OtherTextAnswer otherText = OtherTextAnswer::cancel;
+    bool confirms = false;
+    std::optional<SaveTarget> target;
+    std::optional<SaveTarget> proposal;
+    QStringList asked;
+    QStringList failures;
+};
+
+} // namespace lexiform::qt
