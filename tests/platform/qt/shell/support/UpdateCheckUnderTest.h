@@ -43,10 +43,13 @@ private:
 /// whose authority is trusted. Alerts and opened pages are noted.
 class UpdateCheckUnderTest {
 public:
+    UpdateCheckUnderTest() = default;
     ~UpdateCheckUnderTest() {
         session->stop();
         mainQueue->stop();
     }
+    UpdateCheckUnderTest(const UpdateCheckUnderTest&) = delete;
+    UpdateCheckUnderTest& operator=(const UpdateCheckUnderTest&) = delete;
 
     /// Makes the check and waits for its end; false if none comes.
     [[nodiscard]] bool check() {
