@@ -12,8 +12,7 @@ std::optional<int> statusOf(const QNetworkReply& reply) {
 
 // The part before the parameters; types are the same in either case.
 std::optional<std::string> mimeTypeOf(const QNetworkReply& reply) {
-    const QByteArray header = reply.rawHeader("Content-Type");
-    const QByteArray type = header.left(header.indexOf(';')).trimmed().toLower();
+    const QByteArray type = reply.rawHeader("Content-Type").split(';').value(0).trimmed().toLower();
     if (type.isEmpty()) return std::nullopt;
     return type.toStdString();
 }
