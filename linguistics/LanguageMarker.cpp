@@ -103,9 +103,11 @@ void LanguageMarker::takeSentence(std::string_view text, ToldLanguage language, 
     findQuotations(text, tokens, first, end);
     const bool isWhole = first == 0 && end == tokens.size();
     const bool isOwn = isWhole || looksOwn(text, tokens.subspan(first, end - first));
-    const ToldLanguage own = isOwn && quotations_.empty()
-                                 ? language
-                                 : languageWithin(textOutsideQuotations(text, tokens, first, end), language);
+    ToldLanguage own = isOwn && quotations_.empty()
+                           ? language
+                           : languageWithin(textOutsideQuotations(text, tokens, first, end), language);
+    if (isInAnotherScript(own, tokens.subspan(first, end - first)))
+        own = languageByScript(stretchOf(text, tokens.subspan(first, end - first)), own);
     put(own, first, end);
     for (const auto& [start, close] : quotations_) {
         const ToldLanguage within =
@@ -137,6 +139,22 @@ void LanguageMarker::takeOtherScripts(std::string_view text, ToldLanguage langua
         takeOtherScript(stretchOf(text, tokens.subspan(start, next - start)), start, next);
         start = next;
     }
+}
+
+bool LanguageMarker::isInAnotherScript(ToldLanguage language, std::span<const Token> sentence) {
+    bool hasWords = false;
+    for (const Token& token : sentence) {
+        if (token.kind != TokenKind::word || token.script.empty()) continue;
+        if (isWrittenIn(language.language, token.script)) return false;
+        hasWords = true;
+    }
+    return hasWords;
+}
+
+// However short it is: a guess is better than the model of a language that has no such letters.
+ToldLanguage LanguageMarker::languageByScript(std::string_view sentence, ToldLanguage around) const {
+    const Guess guess = identifier_.guess(sentence);
+    return guess.language.empty() ? around : ToldLanguage{guess.language, guess.confidence() >= enoughToTell};
 }
 
 void LanguageMarker::findQuotations(std::string_view text, std::span<const Token> tokens, std::size_t first,

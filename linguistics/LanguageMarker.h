@@ -52,6 +52,8 @@ private:
     void takeOtherScript(std::string_view stretch, std::size_t first, std::size_t end);
     void takeOtherScripts(std::string_view text, ToldLanguage language, std::span<const Token> tokens,
                           std::size_t first, std::size_t end);
+    [[nodiscard]] bool isInAnotherScript(ToldLanguage language, std::span<const Token> sentence);
+    [[nodiscard]] ToldLanguage languageByScript(std::string_view sentence, ToldLanguage around) const;
     void findQuotations(std::string_view text, std::span<const Token> tokens, std::size_t first,
                         std::size_t end);
     [[nodiscard]] std::string_view textOutsideQuotations(std::string_view text, std::span<const Token> tokens,

@@ -24,6 +24,14 @@ TEST(Language, isToldOfASentenceThatIsLongEnough) {
     EXPECT_EQ(text.token("spoke").language, "en");
 }
 
+TEST(Language, isToldOfAShortSentenceInAScriptOfItsOwn) {
+    const AnalysedText text = analysed("We live here. 서울은 한국의 수도이다. We went home.");
+    EXPECT_EQ(text.token("live").language, "en");
+    EXPECT_EQ(text.token("live").pos, UniversalPos::VERB);
+    EXPECT_EQ(text.token("수도이다").language, "ko");
+    EXPECT_EQ(text.token("수도이다").pos, UniversalPos::VERB);
+}
+
 TEST(Language, isToldOfAQuotationWithinASentence) {
     const AnalysedText text =
         analysed("The old captain shook his head at the question that we had asked him and answered "
