@@ -1,12 +1,13 @@
 #include "platform/qt/shell/QtMainQueue.h"
 
+#include "platform/qt/shell/runLater.h"
+
 #include <utility>
 
 namespace lexiform::qt {
 
 void QtMainQueue::async(std::function<void()> work) {
-    QMetaObject::invokeMethod(
-        context_.get(), [work = std::move(work)] { work(); }, Qt::QueuedConnection);
+    runLater(*context_, std::move(work));
 }
 
 } // namespace lexiform::qt

@@ -1,5 +1,6 @@
 #include "platform/qt/shell/QtUrlSession.h"
 
+#include "platform/qt/shell/runLater.h"
 #include "platform/qt/shell/urlAnswer.h"
 
 #include <QNetworkReply>
@@ -30,12 +31,10 @@ public:
     // The manager may be used on its own thread alone.
     void resume() override {
         if (!completion_) return;
-        QMetaObject::invokeMethod(
-            &manager_,
-            [manager = &manager_, address = address_, completion = std::exchange(completion_, nullptr)] {
-                start(*manager, address, completion);
-            },
-            Qt::QueuedConnection);
+        runLater(manager_,
+                 [manager = &manager_, address = address_, completion = std::exchange(completion_, nullptr)] {
+                     start(*manager, address, completion);
+                 });
     }
 
 private:
