@@ -44,7 +44,7 @@ public:
 
     /// The path of a new file in the test's own folder.
     QString file(const QString& name, const QByteArray& bytes) {
-        const QString path = folder_.filePath(name);
+        QString path = folder_.filePath(name);
         QFile file(path);
         if (file.open(QIODevice::WriteOnly)) file.write(bytes);
         return path;
