@@ -30,9 +30,10 @@ UnsavedAnswer DialogQuestions::askToSave(QWidget& window, const QString& name) {
     QMessageBox box(&window);
     fillMessageBox(box, tr("Save the changes to “%1”?").arg(name),
                    tr("They are lost if they are not saved."));
-    const QAbstractButton* save = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
+    QPushButton* const save = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
     const QAbstractButton* discard = box.addButton(tr("&Don’t Save"), QMessageBox::DestructiveRole);
     box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(save);
     box.exec();
     if (box.clickedButton() == save) return UnsavedAnswer::save;
     return box.clickedButton() == discard ? UnsavedAnswer::discard : UnsavedAnswer::cancel;
@@ -43,9 +44,10 @@ OtherTextAnswer DialogQuestions::askToSaveOtherText(QWidget& window, const QStri
     fillMessageBox(box, tr("Replace the text of “%1” with the output pane?").arg(name),
                    tr("What is saved is the output pane, which holds other characters than the text. "
                       "Parsing again puts the text there."));
-    const QAbstractButton* saveAs = box.addButton(tr("Save &As…"), QMessageBox::AcceptRole);
+    QPushButton* const saveAs = box.addButton(tr("Save &As…"), QMessageBox::AcceptRole);
     const QAbstractButton* replace = box.addButton(tr("&Replace"), QMessageBox::DestructiveRole);
     box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(saveAs);
     box.exec();
     if (box.clickedButton() == saveAs) return OtherTextAnswer::saveAs;
     return box.clickedButton() == replace ? OtherTextAnswer::replace : OtherTextAnswer::cancel;
