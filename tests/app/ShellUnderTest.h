@@ -9,6 +9,15 @@ class ShellUnderTest {
 public:
     static constexpr double now = 800'000'000;
 
+    ShellUnderTest() = default;
+    // What was not answered keeps the delegate, which keeps those who keep the question.
+    ~ShellUnderTest() {
+        session->completion = nullptr;
+        mainQueue->work.clear();
+    }
+    ShellUnderTest(const ShellUnderTest&) = delete;
+    ShellUnderTest& operator=(const ShellUnderTest&) = delete;
+
     /// One launch: the sequence with whatever the defaults hold.
     void launch() { delegate->applicationDidFinishLaunching({}); }
 
