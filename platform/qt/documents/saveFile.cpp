@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <unistd.h>
+
 namespace lexiform::qt {
 
 namespace {
@@ -15,6 +17,14 @@ QString tr(const char* text) {
 
 SaveFault faultOf(const QSaveFile& file) {
     return {tr("%1.").arg(file.errorString())};
+}
+
+// What is short waits in a buffer, and a commit takes no notice when that cannot be written: it would put an
+// empty file in the place of the old one. Nor does it when the disk turns out to be full or broken only now.
+Outcome<Done, SaveFault> reachDisk(QSaveFile& draft) {
+    if (!draft.flush()) return faultOf(draft);
+    if (fsync(draft.handle()) != 0) return SaveFault{tr("%1.").arg(qt_error_string())};
+    return Done{};
 }
 
 } // namespace
@@ -29,7 +39,10 @@ Outcome<Done, SaveFault> saveFile(const QString& path, std::string_view bytes) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) return faultOf(file);
     const auto size = static_cast<qint64>(bytes.size());
-    if (file.write(bytes.data(), size) != size || !file.commit()) return faultOf(file);
+    if (file.write(bytes.data(), size) != size) return faultOf(file);
+    auto reached = reachDisk(file);
+    if (!reached.succeeded()) return reached;
+    if (!file.commit()) return faultOf(file);
     return Done{};
 }
 

@@ -60,17 +60,30 @@ TEST_F(SaveFile, followsALinkAndLeavesIt) {
 }
 
 // A limit on the size of files stands for a disk that fills up while the draft is written.
-TEST_F(SaveFile, leavesTheOldFileAndNoDraftWhenTheDiskIsFull) {
-    const QString path = file("a.txt", "old");
+Outcome<Done, SaveFault> saveOnFullDisk(const QString& path, std::string_view bytes) {
     rlimit usual{};
     getrlimit(RLIMIT_FSIZE, &usual);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit tight{1000, usual.rlim_max};
+    const rlimit tight{10, usual.rlim_max};
     setrlimit(RLIMIT_FSIZE, &tight);
-    const auto outcome = saveFile(path, std::string(100'000, 'x'));
+    auto outcome = saveFile(path, bytes);
     setrlimit(RLIMIT_FSIZE, &usual);
     std::signal(SIGXFSZ, handler);
-    EXPECT_FALSE(outcome.succeeded());
+    return outcome;
+}
+
+TEST_F(SaveFile, leavesTheOldFileAndNoDraftWhenTheDiskIsFull) {
+    const QString path = file("a.txt", "old");
+    EXPECT_FALSE(saveOnFullDisk(path, std::string(100'000, 'x')).succeeded());
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_EQ(names(), QStringList{"a.txt"});
+}
+
+TEST_F(SaveFile, leavesTheOldFileWhenTheDiskHasNoRoomForAShortText) {
+    const QString path = file("a.txt", "old");
+    const auto outcome = saveOnFullDisk(path, "The cat sat.");
+    ASSERT_FALSE(outcome.succeeded());
+    EXPECT_EQ(outcome.fault().reason, "File too large.");
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(names(), QStringList{"a.txt"});
 }
