@@ -21,6 +21,10 @@ void start(QNetworkAccessManager& manager, const QUrl& address, UrlSession::Comp
     QNetworkReply* reply = manager.get(QNetworkRequest(address));
     QObject::connect(reply, &QNetworkReply::finished, reply,
                      [reply, completion = std::move(completion)] { complete(*reply, completion); });
+    // One without an end would fill the memory.
+    QObject::connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received) {
+        if (received > QtUrlSession::mostBytes) reply->abort();
+    });
 }
 
 class QtDataTask : public DataTask {
