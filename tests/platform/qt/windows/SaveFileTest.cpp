@@ -12,9 +12,11 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <thread>
@@ -123,6 +125,31 @@ TEST_F(SaveFile, remembersFilesForOtherInstancesAndWithoutAStore) {
     one.setSession({a, folder.filePath("gone.txt")});
     EXPECT_TRUE(other.reopens());
     EXPECT_EQ(other.session(), QStringList{a});
+}
+
+TEST_F(SaveFile, remembersNoMoreFilesThanAMenuHolds) {
+    const QString a = file("a.txt", "a");
+    const QString store =
+        file("documents.ini", "[files]\nrecent=" + QStringList(1000, a).join(", ").toUtf8());
+    EXPECT_EQ(RememberedFiles(store).recent(), QStringList(RememberedFiles::mostRecent, a));
+}
+
+// The child is killed at some moment of its writing, whichever that is.
+TEST_F(SaveFile, leavesOneOfTheTextsWholeWhenTheProgramIsKilled) {
+    const QString path = file("a.txt", "old");
+    const std::string one(1'000'000, '1');
+    const std::string two(1'000'000, '2');
+    for (int round = 0; round < 10; ++round) {
+        const pid_t writer = fork();
+        while (writer == 0)
+            if (!saveFile(path, one).succeeded() || !saveFile(path, two).succeeded()) _exit(1);
+        ASSERT_GT(writer, 0);
+        std::this_thread::sleep_for(std::chrono::milliseconds(20 + round));
+        kill(writer, SIGKILL);
+        waitpid(writer, nullptr, 0);
+        EXPECT_THAT(contentOf(path).toStdString(), testing::AnyOf("old", one, two));
+    }
+    EXPECT_NE(contentOf(path), "old");
 }
 
 TEST(ReadInBackground, letsThePersonCancelASlowDisk) {
