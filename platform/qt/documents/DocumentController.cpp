@@ -1,6 +1,7 @@
 #include "platform/qt/documents/DocumentController.h"
 
 #include "platform/qt/documents/readInBackground.h"
+#include "platform/qt/documents/sameFile.h"
 #include "platform/qt/windows/DocumentWindow.h"
 
 #include <QCoreApplication>
@@ -11,9 +12,22 @@
 
 namespace lexiform::qt {
 
+namespace {
+
+QStringList filesOf(const DocumentController::Documents& documents) {
+    QStringList paths;
+    for (const auto& document : documents)
+        if (document->fileURL) paths.append(pathOf(*document));
+    return paths;
+}
+
+} // namespace
+
 DocumentController::DocumentController(std::shared_ptr<Storyboard> storyboard, DocumentServices services)
     : storyboard_(std::move(storyboard)), services_(std::move(services)),
-      saver_(services_.questions, services_.save) {}
+      saver_(services_.questions, services_.save, [this](const auto& document, const QString& path) {
+          return openedFrom(path, &document) != nullptr;
+      }) {}
 
 void DocumentController::newDocument() {
     const auto document = std::make_shared<OpenedDocument>(storyboard_);
@@ -91,13 +105,10 @@ void DocumentController::quit() {
     quitting_ = false;
 }
 
-// Two paths of one file, a link among them, are the same document.
-OpenedDocument* DocumentController::openedFrom(const QString& path) const {
-    const QString wanted = QFileInfo(path).canonicalFilePath();
-    if (wanted.isEmpty()) return nullptr;
+OpenedDocument* DocumentController::openedFrom(const QString& path, const Document* butNot) const {
     for (const auto& document : documents_)
-        if (document->fileURL && isOpen(*document) &&
-            QFileInfo(pathOf(*document)).canonicalFilePath() == wanted)
+        if (document.get() != butNot && document->fileURL && isOpen(*document) &&
+            isSameFile(pathOf(*document), path))
             return document.get();
     return nullptr;
 }
@@ -185,16 +196,17 @@ void DocumentController::noteFile(const OpenedDocument& document) {
 }
 
 void DocumentController::rememberSession() {
-    QStringList paths;
-    for (const auto& document : documents_)
-        if (document->fileURL && isOpen(*document)) paths.append(pathOf(*document));
-    services_.remembered.setSession(paths);
+    Documents open = documents_;
+    std::erase_if(open, [](const auto& document) { return !isOpen(*document); });
+    services_.remembered.setSession(filesOf(open));
 }
 
 // The window that closes last ends the program: what it showed is what was open at the end.
 void DocumentController::dropClosed() {
+    const Documents before = documents_;
     std::erase_if(documents_, [](const auto& document) { return !isOpen(*document); });
-    if (!documents_.empty() && !quitting_) rememberSession();
+    if (documents_.size() == before.size()) return;
+    services_.remembered.setSession(filesOf(documents_.empty() ? before : documents_));
 }
 
 } // namespace lexiform::qt

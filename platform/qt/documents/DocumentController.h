@@ -58,7 +58,8 @@ public:
 
 private:
     Outcome<std::shared_ptr<OpenedDocument>, OpenFault> read(const QString& path);
-    [[nodiscard]] OpenedDocument* openedFrom(const QString& path) const;
+    /// The open document of the file, be it under another name; null when there is none but `butNot`.
+    [[nodiscard]] OpenedDocument* openedFrom(const QString& path, const Document* butNot = nullptr) const;
     [[nodiscard]] QString untitledName() const;
     void show(const std::shared_ptr<OpenedDocument>& document, const QString& name);
     void connectWindow(OpenedDocument& document);

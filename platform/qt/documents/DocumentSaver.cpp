@@ -13,16 +13,20 @@ namespace lexiform::qt {
 
 namespace {
 
+QString saverText(const char* text) {
+    return QCoreApplication::translate("DocumentSaver", text);
+}
+
 QString reasonOf(const DocumentError& error) {
-    return QCoreApplication::translate("DocumentSaver", "Its window shows nothing that can be saved (%1 %2).")
+    return saverText("Its window shows nothing that can be saved (%1 %2).")
         .arg(QString::fromStdString(error.domain))
         .arg(error.code);
 }
 
 } // namespace
 
-DocumentSaver::DocumentSaver(DocumentQuestions& questions, FileSaver write)
-    : questions_(questions), write_(std::move(write)) {}
+DocumentSaver::DocumentSaver(DocumentQuestions& questions, FileSaver write, OpenElsewhere isOpenElsewhere)
+    : questions_(questions), write_(std::move(write)), isOpenElsewhere_(std::move(isOpenElsewhere)) {}
 
 bool DocumentSaver::save(OpenedDocument& document) {
     if (!document.fileURL || !isWritable(document.fileType)) return saveAs(document);
@@ -56,8 +60,15 @@ bool DocumentSaver::saveAs(OpenedDocument& document) {
 }
 
 bool DocumentSaver::saveThere(OpenedDocument& document) {
-    const auto target = questions_.chooseTarget(*windowOf(document), proposalFor(document));
-    return target && write(document, *target);
+    DocumentWindow& window = *windowOf(document);
+    const auto target = questions_.chooseTarget(window, proposalFor(document));
+    if (!target) return false;
+    if (!isOpenElsewhere_(document, target->path)) return write(document, *target);
+    questions_.tellNotSaved(
+        window, QFileInfo(target->path).fileName(),
+        saverText(
+            "A file of that name is open in another window. Close that window first, or take another name."));
+    return false;
 }
 
 bool DocumentSaver::write(OpenedDocument& document, const SaveTarget& target) {

@@ -1,5 +1,7 @@
 #include "platform/qt/documents/saveFile.h"
 
+#include "platform/qt/documents/writeInPlace.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -35,6 +37,7 @@ Outcome<Done, SaveFault> saveFile(const QString& path, std::string_view bytes) {
     if (info.exists() && !info.isFile()) return SaveFault{tr("It is not an ordinary file.")};
     if (info.exists() && !info.isWritable()) return SaveFault{tr("The file may only be read.")};
     if (!info.absoluteDir().exists()) return SaveFault{tr("Its folder is no longer there.")};
+    if (hasOtherNames(path)) return writeInPlace(path, bytes);
 
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) return faultOf(file);

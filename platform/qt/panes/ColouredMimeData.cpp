@@ -1,7 +1,8 @@
 #include "platform/qt/panes/ColouredMimeData.h"
 
+#include "base/present.h"
+#include "document/rtf/RtfWriter.h"
 #include "platform/qt/panes/colouredHtml.h"
-#include "platform/qt/panes/colouredRtf.h"
 
 #include <utility>
 
@@ -12,6 +13,11 @@ namespace {
 constexpr QLatin1String htmlType("text/html");
 constexpr QLatin1String rtfType("text/rtf");
 constexpr QLatin1String rtfApplicationType("application/rtf");
+
+QByteArray copiedRtf(const AttributedText& text) {
+    const auto rtf = document::writeRtf(text, {0, document::utf16Length(text.string())});
+    return QByteArray::fromStdString(present(rtf));
+}
 
 } // namespace
 
@@ -30,8 +36,7 @@ bool ColouredMimeData::hasFormat(const QString& format) const {
 
 QVariant ColouredMimeData::retrieveData(const QString& format, QMetaType type) const {
     if (format == htmlType) return QString::fromStdString(colouredHtml(coloured_));
-    if (format == rtfType || format == rtfApplicationType)
-        return QByteArray::fromStdString(colouredRtf(coloured_));
+    if (format == rtfType || format == rtfApplicationType) return copiedRtf(coloured_);
     return QMimeData::retrieveData(format, type);
 }
 

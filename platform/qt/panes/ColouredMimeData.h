@@ -7,7 +7,8 @@
 namespace lexiform::qt {
 
 /// A coloured text for the clipboard: plain, and as HTML and RTF, which are written when somebody asks.
-/// They take the colours of the light appearance, since they end up on paper white.
+/// They take the colours of the light appearance, since they end up on paper white. The RTF is that of a
+/// saved document.
 class ColouredMimeData : public QMimeData {
     Q_OBJECT
 

@@ -1,3 +1,4 @@
+#include "document/readAttributedText.h"
 #include "platform/qt/panes/OutputTextEdit.h"
 #include "platform/qt/theme/Palette.h"
 
@@ -194,6 +195,37 @@ TEST_F(ColouredText, isCopiedAsTextHtmlAndRtf) {
     EXPECT_TRUE(rtf.startsWith("{\\rtf1"));
     EXPECT_TRUE(rtf.contains("\\cf2 ne\\cf1  & \\cf3 tw\\u246?")) << rtf.toStdString();
     EXPECT_EQ(copied->data(QStringLiteral("application/rtf")), rtf);
+}
+
+TEST_F(ColouredText, isCopiedFromADarkPaneInTheColoursForPaper) {
+    const AttributedText text =
+        coloured({{"one", Colour::red}, {" ", Colour::gray}, {"two\r\n", Colour::blue}, {"x", Colour::text}});
+    pane.setPalette(paletteOf(Appearance::dark));
+    pane.replaceText(text);
+    pane.selectAll();
+    pane.copy();
+    const QMimeData* copied = QApplication::clipboard()->mimeData();
+    const QByteArray rtf = copied->data(QStringLiteral("text/rtf"));
+    EXPECT_TRUE(rtf.contains("{\\colortbl;\\red110\\green110\\blue115;\\red215\\green0\\blue21;"
+                             "\\red0\\green85\\blue212;"))
+        << rtf.toStdString();
+    EXPECT_TRUE(copied->html().contains(QStringLiteral("<span style=\"color: #d70015\">one</span>")));
+}
+
+TEST_F(ColouredText, isCopiedAsTheRtfThatIsReadBackTheSame) {
+    // The line end is in the colour of the text, as nobody sees it.
+    const AttributedText text = coloured({{"one", Colour::red},
+                                          {" {", Colour::gray},
+                                          {"tw\xC3\xB6", Colour::blue},
+                                          {"\r\nx", Colour::text},
+                                          {"\xF0\x9F\x90\x88", Colour::orange}});
+    pane.replaceText(text);
+    pane.selectAll();
+    pane.copy();
+    const auto rtf = QApplication::clipboard()->mimeData()->data(QStringLiteral("text/rtf")).toStdString();
+    const auto read = document::readAttributedText(rtf);
+    ASSERT_TRUE(read.succeeded());
+    EXPECT_EQ(read.value(), text);
 }
 
 TEST_F(ColouredText, tellsOfNoChangeWhenItIsPainted) {
