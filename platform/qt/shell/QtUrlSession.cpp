@@ -22,8 +22,8 @@ void start(QNetworkAccessManager& manager, const QUrl& address, UrlSession::Comp
     QObject::connect(reply, &QNetworkReply::finished, reply,
                      [reply, completion = std::move(completion)] { complete(*reply, completion); });
     // One without an end would fill the memory.
-    QObject::connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received) {
-        if (received > QtUrlSession::mostBytes) reply->abort();
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
+        if (reply->bytesAvailable() > QtUrlSession::mostBytes) reply->abort();
     });
 }
 
