@@ -1,0 +1,55 @@
+#include "tests/platform/qt/windows/DesktopUnderTest.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <malloc.h>
+
+namespace lexiform::qt {
+namespace {
+
+constexpr int pause = 20; // milliseconds for what is queued
+
+// Opens a text, works with it as a person does, and closes its window.
+void workOnce(DesktopUnderTest& desktop, const QString& path) {
+    ASSERT_TRUE(desktop.documents.open({path}));
+    DocumentWindow& window = desktop.window();
+    ViewController& content = desktop.content();
+    window.panes()->input()->insertPlainText("The cat ");
+    content.multiParse();
+    content.listConcButton();
+    content.parseButton();
+    emit window.fileMenu()->saveRequested();
+    QTest::qWait(pause);
+    window.close();
+    QTest::qWait(pause);
+    EXPECT_TRUE(desktop.documents.documents().empty());
+    *desktop.tagger = {}; // it notes every text
+}
+
+std::size_t bytesInUse() {
+    return mallinfo2().uordblks;
+}
+
+// Among the blocks that the allocator counts; what is larger than these it maps.
+TEST(ClosedWindow, leavesNothingOfItsTextBehind) {
+    if (bytesInUse() == 0) GTEST_SKIP() << "the allocator does not count";
+    constexpr int lines = 800;
+    constexpr int rounds = 10;
+    DesktopUnderTest desktop;
+    const QString path =
+        desktop.file("cat.txt", QByteArray("The cat sat. The cat sat. The cat sat.\n").repeated(lines));
+    const auto textSize = static_cast<std::size_t>(QFileInfo(path).size());
+
+    // Caches fill at first.
+    for (int round = 0; round < rounds; ++round)
+        workOnce(desktop, path);
+    const std::size_t before = bytesInUse();
+    for (int round = 0; round < rounds; ++round)
+        workOnce(desktop, path);
+    EXPECT_LT(bytesInUse(), before + rounds * textSize / 2);
+}
+
+} // namespace
+} // namespace lexiform::qt
