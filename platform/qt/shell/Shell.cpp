@@ -1,8 +1,8 @@
 #include "platform/qt/shell/Shell.h"
 
 #include "platform/qt/shell/QtAlert.h"
+#include "platform/qt/shell/QtApplication.h"
 #include "platform/qt/shell/QtClock.h"
-#include "platform/qt/shell/QtMenu.h"
 #include "platform/qt/shell/QtWorkspace.h"
 
 namespace lexiform::qt {

@@ -8,25 +8,11 @@ namespace lexiform::qt {
 
 namespace {
 
-constexpr int swatchSize = 18;
-constexpr qreal swatchRadius = 4;
 constexpr QSize chipSize{40, 28};
 constexpr qreal chipRadius = 6;
 constexpr qreal half = 0.5;
 
 } // namespace
-
-ColourSwatch::ColourSwatch(Colour colour, QWidget* parent) : QWidget(parent), colour_(colour) {
-    setFixedSize(swatchSize, swatchSize);
-}
-
-void ColourSwatch::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(valueOf(colour_, appearanceOf(palette())));
-    painter.drawRoundedRect(rect(), swatchRadius, swatchRadius);
-}
 
 ColourChip::ColourChip(Colour colour, Appearance appearance, QWidget* parent)
     : QWidget(parent), colour_(colour), appearance_(appearance) {

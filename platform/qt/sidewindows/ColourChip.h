@@ -7,20 +7,6 @@
 
 namespace lexiform::qt {
 
-/// A patch of a colour as the window's own appearance shows it.
-class ColourSwatch : public QWidget {
-    Q_OBJECT
-
-public:
-    ColourSwatch(Colour colour, QWidget* parent);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    Colour colour_;
-};
-
 /// Two letters in a colour on the pane of one appearance, whichever the window has.
 class ColourChip : public QWidget {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "platform/qt/sidewindows/ColourTable.h"
 
 #include "platform/qt/sidewindows/ColourChip.h"
+#include "platform/qt/sidewindows/ColourSwatch.h"
 #include "platform/qt/theme/Appearance.h"
 
 #include <QPainter>

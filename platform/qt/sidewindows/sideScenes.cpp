@@ -5,7 +5,8 @@
 #include "platform/qt/adapters/QtTextField.h"
 #include "platform/qt/panes/KeyTextEdit.h"
 #include "platform/qt/sidewindows/ColourTable.h"
-#include "platform/qt/sidewindows/QtPdf.h"
+#include "platform/qt/sidewindows/QtPdfDocument.h"
+#include "platform/qt/sidewindows/QtPdfView.h"
 #include "platform/qt/sidewindows/Sheet.h"
 #include "platform/qt/sidewindows/SideWindow.h"
 

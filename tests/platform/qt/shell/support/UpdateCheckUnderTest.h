@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "platform/qt/shell/QtApplication.h"
 #include "platform/qt/shell/QtMainQueue.h"
-#include "platform/qt/shell/QtMenu.h"
 #include "platform/qt/shell/QtUrlSession.h"
 #include "platform/qt/windows/ApplicationActions.h"
 #include "tests/platform/qt/shell/support/HttpsServer.h"

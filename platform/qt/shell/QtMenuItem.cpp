@@ -1,4 +1,4 @@
-#include "platform/qt/shell/QtMenu.h"
+#include "platform/qt/shell/QtMenuItem.h"
 
 namespace lexiform::qt {
 
@@ -16,18 +16,6 @@ QString QtMenuItem::title() const {
     QString shown = action_->text();
     shown.replace(QStringLiteral("&&"), QStringLiteral("\u0001")).remove(u'&');
     return shown.replace(u'\u0001', u'&');
-}
-
-QtApplication::QtApplication(const QList<QAction*>& helpActions) {
-    for (QAction* action : helpActions)
-        items_.push_back(std::make_unique<QtMenuItem>(action));
-}
-
-MenuItem* QtApplication::itemWithTitle(std::string_view title) {
-    const QString wanted = QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size()));
-    for (const auto& item : items_)
-        if (item->title() == wanted) return item.get();
-    return nullptr;
 }
 
 } // namespace lexiform::qt

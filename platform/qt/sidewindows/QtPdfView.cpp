@@ -1,15 +1,10 @@
-#include "platform/qt/sidewindows/QtPdf.h"
+#include "platform/qt/sidewindows/QtPdfView.h"
+
+#include "platform/qt/sidewindows/QtPdfDocument.h"
 
 #include <utility>
 
 namespace lexiform::qt {
-
-std::shared_ptr<PdfDocument> QtPdfDocument::read(const std::string& path) {
-    auto document = std::make_shared<QtPdfDocument>();
-    document->document_.load(QString::fromStdString(path));
-    if (document->document_.status() != QPdfDocument::Status::Ready) return nullptr;
-    return document;
-}
 
 // The widget may outlive the document that only this view holds.
 QtPdfView::~QtPdfView() {

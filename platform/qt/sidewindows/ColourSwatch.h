@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/Colour.h"
+
+#include <QWidget>
+
+namespace lexiform::qt {
+
+/// A patch of a colour as the window's own appearance shows it.
+class ColourSwatch : public QWidget {
+    Q_OBJECT
+
+public:
+    ColourSwatch(Colour colour, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Colour colour_;
+};
+
+} // namespace lexiform::qt
