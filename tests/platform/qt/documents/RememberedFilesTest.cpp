@@ -1,0 +1,36 @@
+#include "platform/qt/documents/RememberedFiles.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace lexiform::qt {
+namespace {
+
+TEST(RememberedFiles, areThoseOfOtherInstancesTooAndNoneInADamagedStore) {
+    const QTemporaryDir folder;
+    const auto file = [&](const QString& name, const QByteArray& bytes) {
+        QFile made(folder.filePath(name));
+        if (made.open(QIODevice::WriteOnly)) made.write(bytes);
+        return made.fileName();
+    };
+    const QString store = file("documents.ini", QByteArray("\0\xFF[files\n=;recent==,,", 21));
+    RememberedFiles one(store);
+    RememberedFiles other(store);
+    EXPECT_EQ(one.recent(), QStringList());
+    EXPECT_FALSE(one.reopens());
+    const QString a = file("a.txt", "a");
+    const QString b = file("b.txt", "b");
+    one.noteOpened(a);
+    other.noteOpened(b);
+    one.noteOpened(a);
+    EXPECT_EQ(other.recent(), (QStringList{a, b}));
+    one.setReopens(true);
+    one.setSession({a, folder.filePath("gone.txt")});
+    EXPECT_TRUE(other.reopens());
+    EXPECT_EQ(other.session(), QStringList{a});
+}
+
+} // namespace
+} // namespace lexiform::qt
