@@ -1,11 +1,16 @@
 #include "platform/qt/adapters/SaveDialog.h"
 
+#include "base/fatalError.h"
+
 #include <QFileInfo>
 #include <QLineEdit>
 
 namespace lexiform::qt {
 
+// A desktop's own dialog asks about replacing a file before the name is complete, and knows nothing of
+// what a subclass does with its fields.
 SaveDialog::SaveDialog(const QString& title) : QFileDialog(nullptr, title) {
+    setOption(QFileDialog::DontUseNativeDialog);
     setAcceptMode(QFileDialog::AcceptSave);
     setFileMode(QFileDialog::AnyFile);
 }
@@ -20,10 +25,15 @@ void SaveDialog::setExtensions(const QStringList& extensions) {
 
 // A folder typed or chosen is entered, not saved to: it keeps its name.
 void SaveDialog::accept() {
-    auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (name != nullptr && !name->text().isEmpty() && !QFileInfo(directory(), name->text()).isDir())
-        name->setText(completed(name->text()));
+    const QString name = nameField().text();
+    if (!name.isEmpty() && !QFileInfo(directory(), name).isDir()) nameField().setText(completed(name));
     QFileDialog::accept();
+}
+
+QLineEdit& SaveDialog::nameField() const {
+    auto* const field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (field == nullptr) fatalError("the save dialog has no field for the name");
+    return *field;
 }
 
 QString SaveDialog::completed(const QString& name) const {
