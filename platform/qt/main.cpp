@@ -14,6 +14,7 @@
 #include "platform/qt/makerAddresses.h"
 #include "platform/qt/shell/QtBundle.h"
 #include "platform/qt/shell/Shell.h"
+#include "platform/qt/shell/missingDisplay.h"
 #include "platform/qt/sidewindows/sideScenes.h"
 #include "platform/qt/theme/ApplicationIcon.h"
 #include "platform/qt/theme/Theme.h"
@@ -26,6 +27,7 @@
 #include <QFileDialog>
 #include <QStandardPaths>
 
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -128,6 +130,10 @@ int main(int argc, char** argv) {
     if (qt::asksForText(QStringList(argv, argv + argc))) {
         const QCoreApplication terminal(argc, argv);
         return qt::filesToOpen(QCoreApplication::arguments()).isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+    if (const auto fault = qt::missingDisplay(QStringList(argv, argv + argc))) {
+        std::fprintf(stderr, "lexiform: %s\n", qPrintable(*fault));
+        return EXIT_FAILURE;
     }
     QApplication application(argc, argv);
     return run(application, qt::filesToOpen(QCoreApplication::arguments()));

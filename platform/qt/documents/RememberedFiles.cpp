@@ -15,7 +15,7 @@ const QString reopensKey = QStringLiteral("files/reopen");
 RememberedFiles::RememberedFiles(const QString& path) : settings_(path, QSettings::IniFormat) {}
 
 QStringList RememberedFiles::recent() const {
-    return existing(recentKey);
+    return existing(recentKey).mid(0, mostRecent); // other programs can write the file too
 }
 
 void RememberedFiles::noteOpened(const QString& path) {

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <unistd.h>
+
 namespace lexiform::qt {
 
 namespace {
@@ -17,6 +19,16 @@ QString tr(const char* text) {
 
 SaveFault faultOf(const QSaveFile& file) {
     return {tr("%1.").arg(file.errorString())};
+}
+
+// A disk that fills up takes a part, and tells what is wrong when it is asked to take the rest.
+bool writeAll(QSaveFile& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const qint64 count = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        if (count <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
 }
 
 } // namespace
@@ -30,9 +42,12 @@ Outcome<Done, SaveFault> saveFile(const QString& path, std::string_view bytes) {
     if (hasOtherNames(path)) return writeInPlace(path, bytes);
 
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return faultOf(file);
-    const auto size = static_cast<qint64>(bytes.size());
-    if (file.write(bytes.data(), size) != size || !file.commit()) return faultOf(file);
+    // Without a buffer, of which a commit takes no notice: on a full disk it would put an empty file in the
+    // place of the old one. Nor does it when the disk turns out to be full or broken only when it is reached.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return faultOf(file);
+    if (!writeAll(file, bytes)) return faultOf(file);
+    if (fsync(file.handle()) != 0) return SaveFault{tr("%1.").arg(qt_error_string())};
+    if (!file.commit()) return faultOf(file);
     return Done{};
 }
 

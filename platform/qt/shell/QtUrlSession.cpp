@@ -21,6 +21,10 @@ void start(QNetworkAccessManager& manager, const QUrl& address, UrlSession::Comp
     QNetworkReply* reply = manager.get(QNetworkRequest(address));
     QObject::connect(reply, &QNetworkReply::finished, reply,
                      [reply, completion = std::move(completion)] { complete(*reply, completion); });
+    // One without an end would fill the memory.
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
+        if (reply->bytesAvailable() > QtUrlSession::mostBytes) reply->abort();
+    });
 }
 
 class QtDataTask : public DataTask {

@@ -8,9 +8,11 @@
 namespace lexiform::qt {
 
 /// Fetches over HTTPS on a thread of its own, with Qt's defaults: redirects to addresses that are no less
-/// safe are followed, and the user's proxies are used.
+/// safe are followed, and the user's proxies are used. An answer of more than `mostBytes` is an error.
 class QtUrlSession : public UrlSession {
 public:
+    static constexpr qint64 mostBytes = qint64{16} << 20;
+
     QtUrlSession();
     ~QtUrlSession() override;
     QtUrlSession(const QtUrlSession&) = delete;

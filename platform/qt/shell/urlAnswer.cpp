@@ -26,7 +26,7 @@ bool isToldByStatus(QNetworkReply::NetworkError error) {
 } // namespace
 
 std::optional<std::string> bodyOf(QNetworkReply& reply) {
-    if (!responseOf(reply)) return std::nullopt;
+    if (!responseOf(reply) || !reply.isOpen()) return std::nullopt; // closed when it was given up
     return reply.readAll().toStdString();
 }
 

@@ -2,6 +2,7 @@
 
 #include "linguistics/text/Utf8.h"
 
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -37,7 +38,7 @@ Affixes readAffixes(const std::filesystem::path& file) {
         if (kind == "FLAG") affixes.flags = flag == "long" ? FlagKind::pair : FlagKind::character;
         // The line that opens a flag has a count where others have what to add.
         if (kind != "SFX" || condition.empty()) continue;
-        add = add.substr(0, add.find('/'));
+        add.resize(std::min(add.find('/'), add.size()));
         affixes.endings[flag].push_back({strip == "0" ? "" : strip, add == "0" ? "" : add, condition});
     }
     return affixes;

@@ -8,13 +8,18 @@
 namespace lexiform::qt {
 namespace {
 
-TEST(RememberedFiles, areThoseOfOtherInstancesTooAndNoneInADamagedStore) {
-    const QTemporaryDir folder;
-    const auto file = [&](const QString& name, const QByteArray& bytes) {
+class RememberedFilesTest : public testing::Test {
+protected:
+    [[nodiscard]] QString file(const QString& name, const QByteArray& bytes) const {
         QFile made(folder.filePath(name));
         if (made.open(QIODevice::WriteOnly)) made.write(bytes);
         return made.fileName();
-    };
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(RememberedFilesTest, areThoseOfOtherInstancesTooAndNoneInADamagedStore) {
     const QString store = file("documents.ini", QByteArray("\0\xFF[files\n=;recent==,,", 21));
     RememberedFiles one(store);
     RememberedFiles other(store);
@@ -30,6 +35,13 @@ TEST(RememberedFiles, areThoseOfOtherInstancesTooAndNoneInADamagedStore) {
     one.setSession({a, folder.filePath("gone.txt")});
     EXPECT_TRUE(other.reopens());
     EXPECT_EQ(other.session(), QStringList{a});
+}
+
+TEST_F(RememberedFilesTest, areNoMoreThanAMenuHolds) {
+    const QString a = file("a.txt", "a");
+    const QString store =
+        file("documents.ini", "[files]\nrecent=" + QStringList(1000, a).join(", ").toUtf8());
+    EXPECT_EQ(RememberedFiles(store).recent(), QStringList(RememberedFiles::mostRecent, a));
 }
 
 } // namespace

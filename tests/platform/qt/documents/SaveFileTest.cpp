@@ -4,12 +4,15 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
+#include <thread>
 
 namespace lexiform::qt {
 namespace {
@@ -51,32 +54,31 @@ TEST_F(SaveFile, followsALinkAndLeavesIt) {
     EXPECT_EQ(contentOf(path), "new");
 }
 
-/// A limit on the size of files stands for a disk that fills up.
-class FullDisk {
-public:
-    FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &usual_);
-        const rlimit tight{1000, usual_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &usual_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    void (*handler_)(int);
-    rlimit usual_{};
-};
+// A limit on the size of files stands for a disk that fills up while the draft is written.
+Outcome<Done, SaveFault> saveOnFullDisk(const QString& path, std::string_view bytes) {
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit tight{10, usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+    auto outcome = saveFile(path, bytes);
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    return outcome;
+}
 
 TEST_F(SaveFile, leavesTheOldFileAndNoDraftWhenTheDiskIsFull) {
     const QString path = file("a.txt", "old");
-    {
-        const FullDisk disk;
-        EXPECT_FALSE(saveFile(path, std::string(100'000, 'x')).succeeded());
-    }
+    EXPECT_FALSE(saveOnFullDisk(path, std::string(100'000, 'x')).succeeded());
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_EQ(names(), QStringList{"a.txt"});
+}
+
+TEST_F(SaveFile, leavesTheOldFileWhenTheDiskHasNoRoomForAShortText) {
+    const QString path = file("a.txt", "old");
+    const auto outcome = saveOnFullDisk(path, "The cat sat.");
+    ASSERT_FALSE(outcome.succeeded());
+    EXPECT_EQ(outcome.fault().reason, "File too large.");
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(names(), QStringList{"a.txt"});
 }
@@ -99,12 +101,9 @@ TEST_F(SaveFile, leavesAFileOfTwoNamesAsItWasWhenTheDiskIsFull) {
     const QString path = file("a.txt", "old");
     const QString name = folder.filePath("b.txt");
     std::filesystem::create_hard_link(path.toStdString(), name.toStdString());
-    {
-        const FullDisk disk;
-        const auto outcome = saveFile(path, std::string(100'000, 'x'));
-        ASSERT_FALSE(outcome.succeeded());
-        EXPECT_EQ(outcome.fault().reason, "File too large.");
-    }
+    const auto outcome = saveOnFullDisk(path, "The cat sat.");
+    ASSERT_FALSE(outcome.succeeded());
+    EXPECT_EQ(outcome.fault().reason, "File too large.");
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(contentOf(name), "old");
 }
@@ -116,6 +115,24 @@ TEST_F(SaveFile, refusesAFolderAndAPlaceThatIsGone) {
     const auto nowhere = saveFile(folder.filePath("gone/a.txt"), "new");
     ASSERT_FALSE(nowhere.succeeded());
     EXPECT_EQ(nowhere.fault().reason, "Its folder is no longer there.");
+}
+
+// The child is killed at some moment of its writing, whichever that is.
+TEST_F(SaveFile, leavesOneOfTheTextsWholeWhenTheProgramIsKilled) {
+    const QString path = file("a.txt", "old");
+    const std::string one(1'000'000, '1');
+    const std::string two(1'000'000, '2');
+    for (int round = 0; round < 10; ++round) {
+        const pid_t writer = fork();
+        while (writer == 0)
+            if (!saveFile(path, one).succeeded() || !saveFile(path, two).succeeded()) _exit(1);
+        ASSERT_GT(writer, 0);
+        std::this_thread::sleep_for(std::chrono::milliseconds(20 + round));
+        kill(writer, SIGKILL);
+        waitpid(writer, nullptr, 0);
+        EXPECT_THAT(contentOf(path).toStdString(), testing::AnyOf("old", one, two));
+    }
+    EXPECT_NE(contentOf(path), "old");
 }
 
 } // namespace

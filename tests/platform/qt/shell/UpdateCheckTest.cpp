@@ -146,6 +146,12 @@ TEST_F(UpdateCheck, followsNoRedirectToAnAddressWithoutEncryption) {
     expectSilence();
 }
 
+TEST_F(UpdateCheck, endsSilentlyForAnAnswerThatIsTooLong) {
+    const QByteArray filling(QtUrlSession::mostBytes, ' ');
+    ASSERT_TRUE(desktop.checkAgainst({.body = offering({"99.0"}) + filling}));
+    expectSilence();
+}
+
 TEST_F(UpdateCheck, leavesTheEventLoopFreeWhileAnAnswerIsSlow) {
     constexpr int delay = 1000;
     constexpr int interval = 20;
