@@ -3,9 +3,19 @@
 #include "base/fatalError.h"
 
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QTreeView>
 
 namespace lexiform::qt {
+
+namespace {
+
+constexpr QSize usualSize{720, 480};
+constexpr int nameColumn = 0;
+constexpr int kindColumn = 2;
+
+} // namespace
 
 // A desktop's own dialog asks about replacing a file before the name is complete, and knows nothing of
 // what a subclass does with its fields.
@@ -13,6 +23,18 @@ SaveDialog::SaveDialog(const QString& title) : QFileDialog(nullptr, title) {
     setOption(QFileDialog::DontUseNativeDialog);
     setAcceptMode(QFileDialog::AcceptSave);
     setFileMode(QFileDialog::AnyFile);
+    resize(usualSize);
+    giveNamesTheRoom();
+}
+
+// The columns are as wide as what they hold, but for the kind of file, which its name tells.
+void SaveDialog::giveNamesTheRoom() {
+    auto* const files = findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) return;
+    files->hideColumn(kindColumn);
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    files->header()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+    files->header()->setStretchLastSection(false);
 }
 
 void SaveDialog::setExtensions(const QStringList& extensions) {

@@ -25,6 +25,7 @@ protected:
     [[nodiscard]] QLineEdit& nameField() const;
 
 private:
+    void giveNamesTheRoom();
     [[nodiscard]] QString completed(const QString& name) const;
 
     QStringList extensions_;
