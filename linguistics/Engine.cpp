@@ -15,7 +15,7 @@ constexpr std::size_t mostIdle = 2;
 // What language a text is in is told from so many bytes of it, and stated where so many of a hundred such
 // guesses are right.
 constexpr std::size_t beginning = std::size_t{64} * 1024;
-constexpr int enoughToTell = 80;
+constexpr int enoughForTheText = 80;
 
 // Models are for languages, whatever the country or the script; Norwegian by itself is mostly Bokmål.
 std::string baseLanguage(std::string_view code) {
@@ -56,7 +56,7 @@ void Engine::giveBack(Analyser analyser) const {
 TextContext Engine::contextOf(std::string_view text) const {
     if (!options_.language.empty()) return {.mainLanguage = options_.language};
     const Guess guess = models_->identifier().guess(text.substr(0, beginning));
-    return {.mainLanguage = std::string(guess.confidence() >= enoughToTell ? guess.language : "")};
+    return {.mainLanguage = std::string(guess.confidence() >= enoughForTheText ? guess.language : "")};
 }
 
 } // namespace lexiform::linguistics

@@ -18,12 +18,23 @@ quick() {
   for script in run test .ci/run tools/*.sh tools/*/*.sh; do bash -n "$script"; done
 }
 
+# The files that a build folder compiles but those that Qt has written.
+compiled() {
+  python3 - "$1" <<'PYTHON'
+import json, sys
+commands = json.load(open(sys.argv[1] + "/compile_commands.json"))
+print(*sorted({c["file"] for c in commands if "_autogen/" not in c["file"]}), sep="\n")
+PYTHON
+}
+
 # In a build folder of its own: clang-tidy cannot read the headers that GCC has precompiled.
 tidy() {
   cmake --preset release -B build/tidy -DLEXIFORM_TESTS=OFF -DLEXIFORM_BENCHMARKS=OFF \
-    -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
-  sources '*.cpp' | grep -vE '^(tests|benchmarks|examples)/' |
-    xargs -P "$(nproc)" -n 4 clang-tidy -p build/tidy --quiet 2>/dev/null
+    -DCMAKE_UNITY_BUILD=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
+  # A folder's sources compiled as one are headers to it.
+  local folders='(base|linguistics|analysis|ports|document|app|platform|tools)'
+  compiled build/tidy | xargs -P "$(nproc)" -n 1 \
+    clang-tidy -p build/tidy --quiet --header-filter="$folders/.*\.(h|cpp)$" 2>/dev/null
 }
 
 # The desktop by itself: what Qt takes for words of its own are names elsewhere.

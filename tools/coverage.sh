@@ -5,6 +5,11 @@ set -euo pipefail
 build=$(cd "$1" && pwd)
 cd "$(dirname "$0")/.."
 
-report() { gcovr --root . "$build" --exclude '.*tests/.*' --exclude-throw-branches -j "$(nproc)" "$@"; }
-report --filter '(base|linguistics|analysis|ports|document|app|platform/linguistics)/' --txt -
+# Threads that count the same branch at once can leave it a negative count, which gcovr cannot read.
+report() {
+  gcovr --root . "$build" --gcov-ignore-parse-errors --exclude '.*tests/.*' --exclude-throw-branches \
+    -j "$(nproc)" "$@"
+}
+core='(base|linguistics|analysis|ports|document|app|platform/linguistics)/'
+report --filter "$core" --fail-under-line 90 --txt -
 report --filter 'analysis/' --fail-under-line 95 --txt /dev/null

@@ -10,7 +10,7 @@ namespace lexiform::document {
 
 namespace {
 
-constexpr std::string_view spaces = " \t\r\n\f";
+constexpr std::string_view pageSpaces = " \t\r\n\f";
 
 constexpr std::array<std::string_view, 17> firstTags = {
     "!doctype html", "html",  "head", "script", "iframe", "h1", "div", "font", "table", "a",
@@ -22,7 +22,7 @@ bool startsWithTag(std::string_view text, std::string_view tag) {
         return a == (b >= 'A' && b <= 'Z' ? static_cast<char>(b + 32) : b);
     });
     const char behind = text[tag.size()];
-    return isSame && (behind == '>' || spaces.find(behind) != std::string_view::npos);
+    return isSame && (behind == '>' || pageSpaces.find(behind) != std::string_view::npos);
 }
 
 /// Steps over what begins with `start`, up to the end of `end`. Gives whether there was such a piece.
@@ -38,7 +38,7 @@ bool startsWithDoctype(std::string_view text) {
     constexpr std::string_view word = "!doctype";
     if (!startsWithTag(text, word)) return false;
     text.remove_prefix(word.size());
-    text.remove_prefix(std::min(text.find_first_not_of(spaces), text.size()));
+    text.remove_prefix(std::min(text.find_first_not_of(pageSpaces), text.size()));
     return startsWithTag(text, "html");
 }
 
@@ -50,7 +50,7 @@ constexpr std::array<char32_t, 32> windowsLetters = {
 
 bool isDropped(char c) {
     const auto byte = static_cast<unsigned char>(c);
-    return (byte < 0x20 && spaces.find(c) == std::string_view::npos) || byte == 0x7F;
+    return (byte < 0x20 && pageSpaces.find(c) == std::string_view::npos) || byte == 0x7F;
 }
 
 } // namespace
@@ -58,7 +58,7 @@ bool isDropped(char c) {
 bool startsAsPage(std::string_view text) {
     bool stepped = true;
     while (stepped) {
-        text.remove_prefix(std::min(text.find_first_not_of(spaces), text.size()));
+        text.remove_prefix(std::min(text.find_first_not_of(pageSpaces), text.size()));
         stepped = step(text, "<!--", "-->") || step(text, "<?", "?>");
     }
     if (!text.starts_with('<')) return false;

@@ -12,7 +12,7 @@ namespace lexiform::document {
 namespace {
 
 // The start of a text tells; the whole is read when it is decoded.
-constexpr std::size_t sampleSize = std::size_t{1} << 16U;
+constexpr std::size_t unicodeSample = std::size_t{1} << 16U;
 
 enum class Order { little, big };
 
@@ -73,7 +73,7 @@ constexpr std::array<Candidate, 4> candidates = {{
 } // namespace
 
 std::optional<std::string_view> unmarkedUnicode(std::string_view bytes) {
-    const std::string_view sample = bytes.substr(0, sampleSize);
+    const std::string_view sample = bytes.substr(0, unicodeSample);
     std::optional<std::string_view> best;
     std::size_t mostAscii = 0;
     for (const Candidate& candidate : candidates) {

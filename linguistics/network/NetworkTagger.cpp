@@ -7,7 +7,7 @@ namespace lexiform::linguistics {
 namespace {
 
 // A text without sentence ends is tagged in pieces, so that memory stays bounded.
-constexpr std::size_t mostWords = 4096;
+constexpr std::size_t wordsAtOnce = 4096;
 
 enum Direction : std::size_t { forwards, backwards };
 
@@ -50,8 +50,8 @@ LexiconEntry NetworkTagger::entryOf(std::string_view word) {
 }
 
 void NetworkTagger::tag(std::span<const std::string_view> words, std::span<WordLabels> labels) {
-    for (std::size_t start = 0; start < words.size(); start += mostWords) {
-        const std::size_t count = std::min(mostWords, words.size() - start);
+    for (std::size_t start = 0; start < words.size(); start += wordsAtOnce) {
+        const std::size_t count = std::min(wordsAtOnce, words.size() - start);
         tagPiece(words.subspan(start, count), labels.subspan(start, count));
     }
 }

@@ -13,14 +13,14 @@ constexpr std::size_t mostWords = std::size_t{12} * 1024;
 // Words met more often than this are kept when the cache is full, so long as they leave room.
 constexpr std::uint32_t seldom = 2;
 constexpr std::size_t mostKept = mostWords / 2;
-constexpr std::size_t fewestSlots = 256;
+constexpr std::size_t firstSlots = 256;
 
 } // namespace
 
 ProjectionCache::ProjectionCache(const NetworkModel& model, const NetworkKernels& kernels)
     : model_(model), kernels_(kernels) {
     append({}, model_.boundarySum());
-    fillSlots(fewestSlots);
+    fillSlots(firstSlots);
 }
 
 void ProjectionCache::makeRoom(std::size_t count) {

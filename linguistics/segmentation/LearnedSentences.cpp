@@ -14,7 +14,7 @@ bool isAmong(std::u32string_view marks, char32_t mark) {
     return marks.find(mark) != std::u32string_view::npos;
 }
 
-bool isClosing(char32_t mark) {
+bool closesAQuotation(char32_t mark) {
     return isAmong(U")]}\"'\u2019\u201D\u201C\u00BB\u203A\u300D\u300F\uFF09\u3011", mark);
 }
 
@@ -48,10 +48,10 @@ std::uint32_t styleOf(std::string_view text, std::span<const Token> tokens) {
 }
 
 /// Walks the tokens of a paragraph once.
-class Marker {
+class LearnedMarker {
 public:
-    Marker(std::string_view text, std::span<Token> tokens, LineBreaks& lineBreaks,
-           const LearnedSegmentation& learned)
+    LearnedMarker(std::string_view text, std::span<Token> tokens, LineBreaks& lineBreaks,
+                  const LearnedSegmentation& learned)
         : text_(text), tokens_(tokens), learned_(learned), start_(tokens.front().range.start),
           style_(styleOf(text, tokens)), lineBreaks_(lineBreaks) {}
 
@@ -115,7 +115,7 @@ private:
     std::size_t endingBefore(std::size_t last) const {
         std::size_t at = last;
         for (int i = 0; i < mostClosingMarks && at > 0; ++i, --at) {
-            if (tokens_[at].kind != TokenKind::punctuation || !isClosing(firstOf(at))) break;
+            if (tokens_[at].kind != TokenKind::punctuation || !closesAQuotation(firstOf(at))) break;
             if (isBlank(tokens_[at - 1])) return last;
         }
         return isEnding(at) ? at : last;
@@ -157,7 +157,7 @@ private:
 
 void reviseSentences(std::string_view text, std::span<Token> tokens, LineBreaks& lineBreaks,
                      const LearnedSegmentation& learned) {
-    if (!tokens.empty()) Marker(text, tokens, lineBreaks, learned).run();
+    if (!tokens.empty()) LearnedMarker(text, tokens, lineBreaks, learned).run();
 }
 
 } // namespace lexiform::linguistics

@@ -10,9 +10,9 @@ namespace {
 constexpr char32_t paragraphSeparator = 0x2029;
 
 /// Reads a paragraph unit by unit and remembers where it may be cut.
-class Reader {
+class ParagraphReader {
 public:
-    Reader(std::string_view text, std::size_t start)
+    ParagraphReader(std::string_view text, std::size_t start)
         : characters_(Characters::table()), text_(text), start_(start), at_(start) {}
 
     std::size_t end() {
@@ -77,7 +77,7 @@ TextRange paragraphAt(std::string_view text, std::size_t start) {
     // No unit of the window may look past it, else one character with a million marks costs each
     // paragraph a million steps; four bytes more tell that the paragraph is longer.
     const std::string_view window = text.substr(0, std::min(text.size(), start + longestParagraph + 4));
-    return {start, Reader(window, start).end() - start};
+    return {start, ParagraphReader(window, start).end() - start};
 }
 
 } // namespace lexiform::linguistics

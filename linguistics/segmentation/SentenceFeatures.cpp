@@ -34,9 +34,9 @@ struct Word {
 };
 
 /// Reads the tokens around a place.
-class Reader {
+class PlaceReader {
 public:
-    Reader(std::string_view text, std::span<const Token> tokens, const LearnedSegmentation& learned)
+    PlaceReader(std::string_view text, std::span<const Token> tokens, const LearnedSegmentation& learned)
         : text_(text), tokens_(tokens), learned_(learned) {}
 
     std::size_t before(std::size_t i) const {
@@ -116,7 +116,7 @@ void OpenSentence::add(std::string_view token, std::uint32_t shape) {
 void sentenceFeatures(std::string_view text, std::span<const Token> tokens, const SentencePlace& place,
                       const OpenSentence& sentence, std::uint32_t style, const LearnedSegmentation& learned,
                       FeatureList& features) {
-    const Reader reader(text, tokens, learned);
+    const PlaceReader reader(text, tokens, learned);
     const bool marked = isMark(tokens[place.ending]);
     const Word mark = marked ? reader.word(place.ending) : Word{};
     const std::size_t leftAt = marked ? reader.before(place.ending) : place.ending;

@@ -13,14 +13,14 @@ namespace lexiform {
 namespace {
 
 /// Stands for the start or the end of the text, and for bytes that are no character.
-constexpr UChar32 none = -1;
+constexpr UChar32 noCharacter = -1;
 
 UChar32 characterAt(std::string_view text, std::size_t at) {
-    if (at >= text.size()) return none;
+    if (at >= text.size()) return noCharacter;
     const auto window = static_cast<std::int32_t>(std::min<std::size_t>(text.size() - at, 4));
     const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data() + at);
     std::int32_t used = 0;
-    UChar32 character = none;
+    UChar32 character = noCharacter;
     U8_NEXT(bytes, used, window, character);
     return character;
 }
@@ -29,13 +29,13 @@ UChar32 characterBefore(std::string_view text, std::size_t at) {
     const std::size_t window = std::min<std::size_t>(at, 4);
     const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data() + (at - window));
     auto used = static_cast<std::int32_t>(window);
-    UChar32 character = none;
+    UChar32 character = noCharacter;
     if (used > 0) U8_PREV(bytes, 0, used, character);
     return character;
 }
 
 bool isWordCharacter(UChar32 c) {
-    return c != none && (u_isalnum(c) || u_hasBinaryProperty(c, UCHAR_ALPHABETIC));
+    return c != noCharacter && (u_isalnum(c) || u_hasBinaryProperty(c, UCHAR_ALPHABETIC));
 }
 
 bool isOpening(UChar32 c) {
@@ -61,7 +61,7 @@ bool isQuotationMark(UChar32 c) {
 }
 
 bool isSpaceOrEdge(UChar32 c) {
-    return c == none || u_isUWhiteSpace(c) != 0;
+    return c == noCharacter || u_isUWhiteSpace(c) != 0;
 }
 
 /// German closes with the mark with which English opens, so the neighbours speak first.
@@ -79,7 +79,7 @@ bool opensQuotation(UChar32 mark, UChar32 before, UChar32 after) {
 
 std::string_view punctuationTag(TextRange mark, std::string_view text) {
     const UChar32 character = characterAt(text, mark.start);
-    if (character == none) return NLTagOtherPunctuation;
+    if (character == noCharacter) return NLTagOtherPunctuation;
     const UChar32 before = characterBefore(text, mark.start);
     const UChar32 after = characterAt(text, mark.end());
 

@@ -9,7 +9,7 @@ namespace lexiform {
 
 namespace {
 
-constexpr StringPool::Number none = std::numeric_limits<StringPool::Number>::max();
+constexpr StringPool::Number absentTag = std::numeric_limits<StringPool::Number>::max();
 
 } // namespace
 
@@ -27,7 +27,7 @@ void TaggedWords::enumerate(TagScheme scheme, const Tagger::Visitor& visitor) co
     std::size_t start = 0;
     for (const Word& word : words_) {
         const StringPool::Number number = word.tags.at(column);
-        const auto tag = number == none ? std::nullopt : std::optional<std::string_view>(tags_[number]);
+        const auto tag = number == absentTag ? std::nullopt : std::optional<std::string_view>(tags_[number]);
         if (visitor(tag, {start, word.length}) == Next::stop) return;
         start += word.length;
     }
@@ -39,7 +39,7 @@ void TaggedWords::add(const linguistics::Paragraph& paragraph, std::string_view 
         word.length = static_cast<std::uint32_t>(token.range.length);
         for (std::size_t column = 0; column < schemes_.size(); ++column) {
             const auto tag = wordTagsUnder(schemes_[column])(token, text);
-            word.tags[column] = tag ? tags_.numberOf(*tag) : none;
+            word.tags[column] = tag ? tags_.numberOf(*tag) : absentTag;
         }
     }
 }

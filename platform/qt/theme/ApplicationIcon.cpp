@@ -11,7 +11,7 @@ namespace lexiform::qt {
 
 namespace {
 
-constexpr qreal gridUnits = 64;
+constexpr qreal tileUnits = 64;
 
 struct Word {
     qreal x;
@@ -33,7 +33,7 @@ constexpr std::array<Word, 7> words = {{
 void paintIcon(QPainter& painter, int size) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.scale(size / gridUnits, size / gridUnits);
+    painter.scale(size / tileUnits, size / tileUnits);
     painter.setBrush(surfacesOf(Appearance::dark).window);
     painter.drawRoundedRect(QRectF{3, 3, 58, 58}, 13, 13);
     for (const Word& word : words) {

@@ -39,33 +39,33 @@ Tagged tagsOf(const std::string& text, TextRange range, NLTokenUnit unit, TagSch
     return tagged;
 }
 
-Tagged wordsOf(const std::string& text, TagScheme scheme = NLTagSchemeNameTypeOrLexicalClass) {
+Tagged taggedWordsOf(const std::string& text, TagScheme scheme = NLTagSchemeNameTypeOrLexicalClass) {
     return tagsOf(text, {0, text.size()}, NLTokenUnit::word, scheme);
 }
 
 TEST(LinguisticTagger, tagsWordsPunctuationAndWhiteSpace) {
-    EXPECT_EQ(wordsOf("The old cat sat on the mat.\n"), (Tagged{{"The", "Determiner"},
-                                                                {" ", "Whitespace"},
-                                                                {"old", "Adjective"},
-                                                                {" ", "Whitespace"},
-                                                                {"cat", "Noun"},
-                                                                {" ", "Whitespace"},
-                                                                {"sat", "Verb"},
-                                                                {" ", "Whitespace"},
-                                                                {"on", "Preposition"},
-                                                                {" ", "Whitespace"},
-                                                                {"the", "Determiner"},
-                                                                {" ", "Whitespace"},
-                                                                {"mat", "Noun"},
-                                                                {".", "SentenceTerminator"},
-                                                                {"\n", "ParagraphBreak"}}));
+    EXPECT_EQ(taggedWordsOf("The old cat sat on the mat.\n"), (Tagged{{"The", "Determiner"},
+                                                                      {" ", "Whitespace"},
+                                                                      {"old", "Adjective"},
+                                                                      {" ", "Whitespace"},
+                                                                      {"cat", "Noun"},
+                                                                      {" ", "Whitespace"},
+                                                                      {"sat", "Verb"},
+                                                                      {" ", "Whitespace"},
+                                                                      {"on", "Preposition"},
+                                                                      {" ", "Whitespace"},
+                                                                      {"the", "Determiner"},
+                                                                      {" ", "Whitespace"},
+                                                                      {"mat", "Noun"},
+                                                                      {".", "SentenceTerminator"},
+                                                                      {"\n", "ParagraphBreak"}}));
 }
 
 TEST(LinguisticTagger, givesEveryTokenATagUnderTheLexicalSchemeInEveryScript) {
     const std::string text =
         "She can't! 海は広い。 Ὁ λόγος 3,5 % 🌊🏳️‍🌈 \u200F שלום \x01 e\u0301";
     std::string joined;
-    for (const auto& [token, tag] : wordsOf(text)) {
+    for (const auto& [token, tag] : taggedWordsOf(text)) {
         EXPECT_NE(tag, "-") << token;
         joined += token;
     }
@@ -74,7 +74,7 @@ TEST(LinguisticTagger, givesEveryTokenATagUnderTheLexicalSchemeInEveryScript) {
 
 TEST(LinguisticTagger, tellsThePunctuationOfOtherLanguagesInATextThatIsPartlyEnglish) {
     const std::string text = "He said « Salut ! » and wrote 「はい」。 Then he left the room.";
-    for (const auto& [token, tag] : wordsOf(text)) {
+    for (const auto& [token, tag] : taggedWordsOf(text)) {
         if (token == "«" || token == "「") {
             EXPECT_EQ(tag, "OpenQuote") << token;
         }
@@ -88,19 +88,19 @@ TEST(LinguisticTagger, tellsThePunctuationOfOtherLanguagesInATextThatIsPartlyEng
 }
 
 TEST(LinguisticTagger, tagsEachWordOfANameOfTwoWords) {
-    const Tagged tagged = wordsOf("Yesterday John Smith walked home.");
+    const Tagged tagged = taggedWordsOf("Yesterday John Smith walked home.");
     EXPECT_EQ(tagged[2], (std::pair<std::string, std::string>{"John", "PersonalName"}));
     EXPECT_EQ(tagged[4], (std::pair<std::string, std::string>{"Smith", "PersonalName"}));
 }
 
 TEST(LinguisticTagger, tellsTheScriptOfAWord) {
-    EXPECT_EQ(wordsOf("sea море", NLTagSchemeScript),
+    EXPECT_EQ(taggedWordsOf("sea море", NLTagSchemeScript),
               (Tagged{{"sea", "Latn"}, {" ", "Latn"}, {"море", "Cyrl"}}));
 }
 
 TEST(LinguisticTagger, givesNoTagWhereTheTextTellsNone) {
-    EXPECT_EQ(wordsOf("42", NLTagSchemeScript), (Tagged{{"42", "-"}}));
-    EXPECT_EQ(wordsOf("42", NLTagSchemeLanguage), (Tagged{{"42", "-"}}));
+    EXPECT_EQ(taggedWordsOf("42", NLTagSchemeScript), (Tagged{{"42", "-"}}));
+    EXPECT_EQ(taggedWordsOf("42", NLTagSchemeLanguage), (Tagged{{"42", "-"}}));
 }
 
 TEST(LinguisticTagger, countsRangesInTheTextsOwnBytes) {
@@ -123,7 +123,7 @@ TEST(LinguisticTagger, saysTheSameWhetherItWasMadeForOneSchemeOrForAll) {
                                  tagged.emplace_back(substring(text, token), tag.value_or("-"));
                                  return Next::proceed;
                              });
-        EXPECT_EQ(tagged, wordsOf(text, scheme)) << scheme;
+        EXPECT_EQ(tagged, taggedWordsOf(text, scheme)) << scheme;
     }
 }
 

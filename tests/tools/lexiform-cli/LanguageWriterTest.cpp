@@ -9,7 +9,7 @@ namespace {
 
 using enum linguistics::UniversalPos;
 
-std::string written(const HandMadeText& made, bool bySentence) {
+std::string linesOf(const HandMadeText& made, bool bySentence) {
     LanguageWriter writer(bySentence);
     Piece piece;
     writer.paragraph(made.paragraph, {made.text}, piece);
@@ -25,23 +25,23 @@ HandMadeText twoSentences() {
 }
 
 TEST(LanguageWriter, writesTheLanguageOfMostOfAParagraphAndItsTextOnOneLine) {
-    EXPECT_EQ(written(twoSentences(), false), "en\tHe said: oui!\n");
+    EXPECT_EQ(linesOf(twoSentences(), false), "en\tHe said: oui!\n");
 }
 
 TEST(LanguageWriter, writesALineForEachSentenceWhenAsked) {
-    EXPECT_EQ(written(twoSentences(), true), "en\tHe said:\nfr\toui!\n");
+    EXPECT_EQ(linesOf(twoSentences(), true), "en\tHe said:\nfr\toui!\n");
 }
 
 TEST(LanguageWriter, saysThatALanguageCannotBeTold) {
     HandMadeText made;
     made.add("42", {.startsSentence = true});
-    EXPECT_EQ(written(made, false), "und\t42\n");
+    EXPECT_EQ(linesOf(made, false), "und\t42\n");
 }
 
 TEST(LanguageWriter, writesNothingForWhiteSpace) {
     HandMadeText made;
     made.space("  ").lineBreak("\n");
-    EXPECT_EQ(written(made, true), "");
+    EXPECT_EQ(linesOf(made, true), "");
 }
 
 } // namespace

@@ -12,8 +12,8 @@ namespace {
 using linguistics::UniversalPos;
 
 // Chosen on the development part, whose own tags tell classifiers: of a hundred found 90 are right.
-constexpr std::size_t leastSeen = 3;
-constexpr double leastShare = 0.6;
+constexpr std::size_t leastCounting = 3;
+constexpr double leastCountingShare = 0.6;
 
 struct Uses {
     std::size_t all = 0;
@@ -47,8 +47,8 @@ std::set<std::string> chineseClassifiers(const std::vector<Source>& training) {
                 addUses(sentence, nouns);
     std::set<std::string> classifiers;
     for (const auto& [form, uses] : nouns)
-        if (uses.counting >= leastSeen &&
-            static_cast<double>(uses.counting) >= leastShare * static_cast<double>(uses.all))
+        if (uses.counting >= leastCounting &&
+            static_cast<double>(uses.counting) >= leastCountingShare * static_cast<double>(uses.all))
             classifiers.insert(form);
     return classifiers;
 }

@@ -21,7 +21,7 @@ using linguistics::WordList;
 constexpr std::size_t clusterCount = 200;
 constexpr int clusterPasses = 6;
 // A word seen less often does not show what words stand beside it.
-constexpr std::size_t leastSeen = 12;
+constexpr std::size_t leastSeenInClusters = 12;
 constexpr std::size_t mostTokens = 4000000;
 // What is like the treebanks counts this many times.
 constexpr int repeatsOfTreebanks = 3;
@@ -168,7 +168,7 @@ private:
 
     ReadFault addClusters() {
         std::size_t room = mostTokens;
-        WordClusters clusters(clusterCount, leastSeen);
+        WordClusters clusters(clusterCount, leastSeenInClusters);
         for (int i = 0; i < repeatsOfTreebanks; ++i)
             addTreebanks(clusters);
         for (const fs::path& text : sources_.openTexts) {
