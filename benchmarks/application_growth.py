@@ -2,10 +2,10 @@
 """Measures the real application on texts of growing length: application_growth.py EXECUTABLE TEXT [RUNS].
 
 The text is repeated or cut to 0.1, 1, 3.3 and 20 MB of whole lines. Each is opened on an X server of its own and
-worked on by keys alone (xdotool must be installed). Prints for each size the best of several runs, in seconds: from the start of the process to
-the first verb in its colour on the screen; from the key of parsing, of multi-parsing and of listing the words until
-the program rests again; from the key of saving until the file is replaced. Behind the passes stands the peak
-memory of each, less what the process had before it.
+worked on by keys alone (xdotool must be installed). Prints for each size the best of several runs, in seconds:
+from the start of the process to the first verb in its colour on the screen; from the key of parsing, of
+multi-parsing and of listing the words until the program rests again; from the key of saving until the file is
+replaced. Behind the passes stands the peak memory of each, less what the process had before it.
 """
 import mmap
 import os
@@ -159,7 +159,8 @@ def main():
             best = [min(steps) for steps in zip(*results)]
             saving = min(measure_saving(executable, path) for _ in range(runs))
             cells = [f"{seconds:6.2f} s {memory:4.0f} MB" for seconds, memory in best[1:]]
-            print(f"{size / 1e6:6.1f} MB  {best[0][0]:6.2f} s  " + "  ".join(cells) + f"  {saving:6.2f} s", flush=True)
+            cells = [f"{best[0][0]:6.2f} s", *cells, f"{saving:6.2f} s"]
+            print(f"{size / 1e6:6.1f} MB  " + "  ".join(cells), flush=True)
 
 
 if __name__ == "__main__":
