@@ -3,10 +3,12 @@
 #include <QFileDialog>
 #include <QStringList>
 
+class QLineEdit;
+
 namespace lexiform::qt {
 
 /// A dialog that asks where to save. A name without one of its extensions gets the first of them before
-/// the person is asked whether an existing file may be replaced.
+/// the person is asked whether an existing file may be replaced. It is the same on every desktop.
 class SaveDialog : public QFileDialog {
     Q_OBJECT
 
@@ -20,8 +22,10 @@ public:
 
 protected:
     void accept() override;
+    [[nodiscard]] QLineEdit& nameField() const;
 
 private:
+    void giveNamesTheRoom();
     [[nodiscard]] QString completed(const QString& name) const;
 
     QStringList extensions_;

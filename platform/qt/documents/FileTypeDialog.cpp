@@ -3,7 +3,9 @@
 #include "document/Document.h"
 #include "platform/qt/documents/FileType.h"
 
+#include <QComboBox>
 #include <QFileInfo>
+#include <QLineEdit>
 
 namespace lexiform::qt {
 
@@ -17,6 +19,9 @@ FileTypeDialog::FileTypeDialog(QWidget& window, const SaveTarget& proposal)
     setNameFilters({nameFilterOf(richTextType), nameFilterOf(plainTextType)});
     selectNameFilter(nameFilterOf(proposal.type));
     selectFile(info.fileName());
+    // Once a type is chosen, the dialog takes whatever follows the last dot for an extension.
+    connect(findChild<QComboBox*>(QStringLiteral("fileTypeCombo")), &QComboBox::currentIndexChanged, this,
+            [this] { typedName_ = nameField().text(); });
     connect(this, &QFileDialog::filterSelected, this, &FileTypeDialog::takeType);
 }
 
@@ -25,11 +30,12 @@ SaveTarget FileTypeDialog::target() const {
 }
 
 void FileTypeDialog::takeType(const QString& filter) {
-    const QFileInfo chosen(selectedFiles().constFirst());
-    const bool hadExtension = chosen.suffix() == extensionOf(type_);
+    const QString before = u'.' + extensionOf(type_);
     type_ = filter == nameFilterOf(plainTextType) ? plainTextType : richTextType;
-    setRequiredExtensions({extensionOf(type_)});
-    if (hadExtension) selectFile(chosen.completeBaseName() + u'.' + extensionOf(type_));
+    const QString extension = extensionOf(type_);
+    setRequiredExtensions({extension});
+    const bool hadExtension = typedName_.endsWith(before);
+    nameField().setText(hadExtension ? typedName_.chopped(before.size()) + u'.' + extension : typedName_);
 }
 
 } // namespace lexiform::qt

@@ -19,6 +19,7 @@ private:
     void takeType(const QString& filter);
 
     std::string type_;
+    QString typedName_; ///< what the name was when another type was chosen
 };
 
 } // namespace lexiform::qt

@@ -5,12 +5,14 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QTextCursor>
+#include <QToolBar>
 
 namespace lexiform::qt {
 
 namespace {
 
 constexpr int pointSize = 11;
+constexpr QSize usualSize{1040, 760}; // of the preview: all of its commands are in sight
 
 QTextCharFormat inkOf(Colour colour) {
     QTextCharFormat format;
@@ -58,6 +60,9 @@ void showPrintPreview(QWidget& window, const DocumentPanes& panes) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(window.windowTitle());
     QPrintPreviewDialog preview(&printer, &window);
+    preview.resize(window.size().boundedTo(usualSize).expandedTo(preview.sizeHint()));
+    for (QToolBar* bar : preview.findChildren<QToolBar*>())
+        bar->setMovable(false);
     const auto document = printedDocument(panes);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, document.get(),
                      [&](QPrinter* pages) { document->print(pages); });

@@ -32,6 +32,7 @@ QToolBar QToolButton:hover { background: $hover; }
 QToolBar QToolButton:pressed { background: $pressed; }
 QToolBar QToolButton:focus { border-color: $accent; }
 QToolBar QToolButton:disabled { color: $faint; background: transparent; }
+QPrintPreviewDialog QToolBar QToolButton { padding: 4px; }
 
 #findBar QToolButton { border: 2px solid transparent; border-radius: 6px; padding: 6px 10px;
                        background: transparent; color: $text; }
@@ -41,13 +42,14 @@ QToolBar QToolButton:disabled { color: $faint; background: transparent; }
 QLineEdit { border: 1px solid $border; border-radius: 6px; padding: 6px 9px; background: $fill; color: $text;
             selection-background-color: $selection; selection-color: $text; }
 QLineEdit:focus { border: 2px solid $accent; padding: 5px 8px; }
+QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; padding: 0; background: transparent; }
 
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
-QPushButton { border: 1px solid $border; border-radius: 6px; padding: 6px 15px; min-width: 60px;
+QPushButton { border: 1px solid $border; border-radius: 6px; padding: 6px 20px;
               background: $fill; color: $text; }
 QPushButton:hover { background: $pointed; }
 QPushButton:pressed { background: $pressed; }
-QPushButton:focus { border: 2px solid $accent; padding: 5px 14px; }
+QPushButton:focus { border: 2px solid $accent; padding: 5px 19px; }
 QPushButton:disabled { color: $faint; border-color: $outline; background: transparent; }
 
 QComboBox { combobox-popup: 0; }

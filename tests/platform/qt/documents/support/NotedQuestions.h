@@ -14,7 +14,10 @@ class NotedQuestions : public DocumentQuestions {
 public:
     UnsavedAnswer askToSave(QWidget& /*window*/, const QString& name) override {
         asked.append("save " + name + "?");
-        return unsaved;
+        if (unsavedInTurn.empty()) return unsaved;
+        const UnsavedAnswer next = unsavedInTurn.front();
+        unsavedInTurn.pop_front();
+        return next;
     }
     OtherTextAnswer askToSaveOtherText(QWidget& /*window*/, const QString& name) override {
         asked.append("other text into " + name + "?");
@@ -42,6 +45,7 @@ public:
     }
 
     UnsavedAnswer unsaved = UnsavedAnswer::discard;
+    std::deque<UnsavedAnswer> unsavedInTurn; ///< before `unsaved`, one for each question
     OtherTextAnswer otherText = OtherTextAnswer::cancel;
     bool confirms = false;
     std::optional<SaveTarget> target;

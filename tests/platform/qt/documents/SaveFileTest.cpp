@@ -1,16 +1,8 @@
 #include "platform/qt/documents/saveFile.h"
 
-#include "document/Document.h"
-#include "platform/qt/documents/FileType.h"
-#include "platform/qt/documents/RememberedFiles.h"
-#include "platform/qt/documents/readInBackground.h"
-
-#include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QProgressDialog>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -19,6 +11,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <filesystem>
 #include <thread>
 
 namespace lexiform::qt {
@@ -90,6 +83,31 @@ TEST_F(SaveFile, leavesTheOldFileWhenTheDiskHasNoRoomForAShortText) {
     EXPECT_EQ(names(), QStringList{"a.txt"});
 }
 
+TEST_F(SaveFile, keepsTheNamesOfAFileTogether) {
+    const QString path = file("a.txt", "a longer old text");
+    const QString name = folder.filePath("b.txt");
+    std::filesystem::create_hard_link(path.toStdString(), name.toStdString());
+    EXPECT_TRUE(saveFile(name, "new").succeeded());
+    EXPECT_EQ(contentOf(path), "new");
+    EXPECT_TRUE(saveFile(path, std::string(100'000, 'x')).succeeded());
+    EXPECT_EQ(contentOf(name), QByteArray(100'000, 'x'));
+    EXPECT_TRUE(saveFile(path, "").succeeded());
+    EXPECT_EQ(contentOf(name), "");
+    EXPECT_EQ(std::filesystem::hard_link_count(path.toStdString()), 2U);
+    EXPECT_EQ(names(), (QStringList{"a.txt", "b.txt"}));
+}
+
+TEST_F(SaveFile, leavesAFileOfTwoNamesAsItWasWhenTheDiskIsFull) {
+    const QString path = file("a.txt", "old");
+    const QString name = folder.filePath("b.txt");
+    std::filesystem::create_hard_link(path.toStdString(), name.toStdString());
+    const auto outcome = saveOnFullDisk(path, "The cat sat.");
+    ASSERT_FALSE(outcome.succeeded());
+    EXPECT_EQ(outcome.fault().reason, "File too large.");
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_EQ(contentOf(name), "old");
+}
+
 TEST_F(SaveFile, refusesAFolderAndAPlaceThatIsGone) {
     const auto intoFolder = saveFile(folder.path(), "new");
     ASSERT_FALSE(intoFolder.succeeded());
@@ -97,41 +115,6 @@ TEST_F(SaveFile, refusesAFolderAndAPlaceThatIsGone) {
     const auto nowhere = saveFile(folder.filePath("gone/a.txt"), "new");
     ASSERT_FALSE(nowhere.succeeded());
     EXPECT_EQ(nowhere.fault().reason, "Its folder is no longer there.");
-}
-
-TEST(FileType, goesByTheExtensionAndElseByTheBytes) {
-    EXPECT_EQ(typeOfFile("a.TXT", "caf\xE9"), plainTextType);
-    EXPECT_EQ(typeOfFile("a.rtf", "The cat"), richTextType);
-    EXPECT_EQ(typeOfFile("README", "The cat"), plainTextType);
-    EXPECT_EQ(typeOfFile("README", "{\\rtf1 caf\xE9}"), richTextType);
-    EXPECT_EQ(typeOfFile("README", "caf\xE9"), "public.text");
-    EXPECT_FALSE(isWritable(typeOfFile("a.docx", "PK")));
-    EXPECT_FALSE(isWritable(typeOfFile("README", "caf\xE9")));
-}
-
-TEST_F(SaveFile, remembersFilesForOtherInstancesAndWithoutAStore) {
-    const QString store = file("documents.ini", QByteArray("\0\xFF[files\n=;recent==,,", 21));
-    RememberedFiles one(store);
-    RememberedFiles other(store);
-    EXPECT_EQ(one.recent(), QStringList());
-    EXPECT_FALSE(one.reopens());
-    const QString a = file("a.txt", "a");
-    const QString b = file("b.txt", "b");
-    one.noteOpened(a);
-    other.noteOpened(b);
-    one.noteOpened(a);
-    EXPECT_EQ(other.recent(), (QStringList{a, b}));
-    one.setReopens(true);
-    one.setSession({a, folder.filePath("gone.txt")});
-    EXPECT_TRUE(other.reopens());
-    EXPECT_EQ(other.session(), QStringList{a});
-}
-
-TEST_F(SaveFile, remembersNoMoreFilesThanAMenuHolds) {
-    const QString a = file("a.txt", "a");
-    const QString store =
-        file("documents.ini", "[files]\nrecent=" + QStringList(1000, a).join(", ").toUtf8());
-    EXPECT_EQ(RememberedFiles(store).recent(), QStringList(RememberedFiles::mostRecent, a));
 }
 
 // The child is killed at some moment of its writing, whichever that is.
@@ -150,33 +133,6 @@ TEST_F(SaveFile, leavesOneOfTheTextsWholeWhenTheProgramIsKilled) {
         EXPECT_THAT(contentOf(path).toStdString(), testing::AnyOf("old", one, two));
     }
     EXPECT_NE(contentOf(path), "old");
-}
-
-TEST(ReadInBackground, letsThePersonCancelASlowDisk) {
-    const auto slow = [](const QString&, const ReadObserver& goesOn) -> Outcome<std::string, OpenFault> {
-        while (goesOn(1, 100))
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        return OpenFault::cancelled;
-    };
-    QTimer person;
-    QObject::connect(&person, &QTimer::timeout, [] {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* progress = qobject_cast<QProgressDialog*>(window)) emit progress->canceled();
-    });
-    person.start(20);
-    const auto outcome = readInBackground("slow.txt", slow, std::chrono::milliseconds(10));
-    ASSERT_FALSE(outcome.succeeded());
-    EXPECT_EQ(outcome.fault(), OpenFault::cancelled);
-}
-
-TEST(ReadInBackground, givesTheBytesOfADiskThatTakesItsTime) {
-    const auto late = [](const QString&, const ReadObserver&) -> Outcome<std::string, OpenFault> {
-        std::this_thread::sleep_for(std::chrono::milliseconds(120));
-        return std::string("The cat");
-    };
-    const auto outcome = readInBackground("late.txt", late, std::chrono::milliseconds(10));
-    ASSERT_TRUE(outcome.succeeded());
-    EXPECT_EQ(outcome.value(), "The cat");
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 namespace lexiform::qt {
 namespace {
@@ -156,9 +157,11 @@ TEST_F(DocumentControllerTest, bringsAnOpenFileForwardInsteadOfOpeningItAgain) {
 TEST_F(DocumentControllerTest, knowsAFileByAnotherPath) {
     const QString path = desktop.file("cat.txt", "The cat sat.");
     const QString link = desktop.folder() + "/link.txt";
+    const QString name = desktop.folder() + "/name.txt";
     QFile::link(path, link);
+    std::filesystem::create_hard_link(path.toStdString(), name.toStdString());
     desktop.documents.open(
-        {path, link, desktop.folder() + "/../" + QDir(desktop.folder()).dirName() + "/cat.txt"});
+        {path, link, name, desktop.folder() + "/../" + QDir(desktop.folder()).dirName() + "/cat.txt"});
     EXPECT_EQ(openCount(), 1U);
 }
 

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace lexiform::qt {
 namespace {
 
@@ -46,15 +48,6 @@ TEST_F(Saving, writesWhatWasEditedAndParsed) {
     EXPECT_EQ(contentOf(path), "The cat sat. The cat.");
     EXPECT_FALSE(window.isEdited());
     EXPECT_FALSE(window.statusLine()->showsEdited());
-    EXPECT_TRUE(desktop.questions.asked.isEmpty());
-}
-
-TEST_F(Saving, isNoEditOfAPassOrAView) {
-    DocumentWindow& window = opened(desktop.file("cat.txt", "The cat sat."));
-    window.textActions().multiParse->trigger();
-    window.textActions().listWords->trigger();
-    EXPECT_FALSE(window.isEdited());
-    window.close();
     EXPECT_TRUE(desktop.questions.asked.isEmpty());
 }
 
@@ -138,6 +131,49 @@ TEST_F(Saving, asksBeforeAChangeOfAnotherProgramIsOverwritten) {
     EXPECT_EQ(desktop.questions.asked.size(), 2);
 }
 
+TEST_F(Saving, leavesAloneAFileThatAnotherWindowShows) {
+    const QString other = desktop.file("other.txt", "The dog.");
+    const QString name = desktop.folder() + "/name.txt";
+    const QString link = desktop.folder() + "/link.txt";
+    std::filesystem::create_hard_link(other.toStdString(), name.toStdString());
+    QFile::link(other, link);
+    opened(other);
+    DocumentWindow& window = desktop.typedInto("The cat");
+    window.textActions().parse->trigger();
+    for (const QString& target : {other, name, link}) {
+        desktop.questions.target = SaveTarget{target, std::string(plainTextType)};
+        emit window.fileMenu()->saveAsRequested();
+    }
+    ASSERT_EQ(desktop.questions.failures.size(), 3);
+    EXPECT_EQ(desktop.questions.failures.at(0),
+              "other.txt: A file of that name is open in another window. Close that window first, or take "
+              "another name.");
+    EXPECT_EQ(contentOf(other), "The dog.");
+    EXPECT_EQ(window.displayName(), "Untitled");
+    EXPECT_TRUE(window.isEdited());
+}
+
+TEST_F(Saving, overwritesTheFileOfAWindowThatIsClosed) {
+    const QString other = desktop.file("other.txt", "The dog.");
+    DocumentWindow& closing = opened(other);
+    DocumentWindow& window = desktop.typedInto("The cat");
+    window.textActions().parse->trigger();
+    closing.close();
+    desktop.questions.target = SaveTarget{other, std::string(plainTextType)};
+    emit window.fileMenu()->saveAsRequested();
+    EXPECT_EQ(contentOf(other), "The cat");
+}
+
+TEST_F(Saving, goesToItsOwnFileByItsOwnName) {
+    const QString path = desktop.file("cat.txt", "The cat sat.");
+    DocumentWindow& window = opened(path);
+    type(window, " The cat.");
+    window.textActions().parse->trigger();
+    desktop.questions.target = SaveTarget{path, std::string(plainTextType)};
+    emit window.fileMenu()->saveAsRequested();
+    EXPECT_EQ(contentOf(path), "The cat sat. The cat.");
+}
+
 TEST_F(Saving, writesAFileAgainThatWasRemoved) {
     const QString path = desktop.file("cat.txt", "The cat sat.");
     DocumentWindow& window = opened(path);
@@ -173,33 +209,6 @@ TEST_F(Saving, revertsWithoutTouchingTheInputPane) {
     window.textActions().parse->trigger();
     emit window.fileMenu()->saveRequested();
     EXPECT_EQ(desktop.questions.asked.last(), "other text into cat.txt?");
-}
-
-TEST_F(Saving, keepsTheWindowThatThePersonDoesNotWantToClose) {
-    DocumentWindow& window = desktop.typedInto("The cat");
-    desktop.questions.unsaved = UnsavedAnswer::cancel;
-    EXPECT_FALSE(window.close());
-    EXPECT_TRUE(window.isVisible());
-    desktop.questions.unsaved = UnsavedAnswer::save; // and then choose nowhere
-    window.textActions().parse->trigger();
-    EXPECT_FALSE(window.close());
-    desktop.questions.unsaved = UnsavedAnswer::discard;
-    EXPECT_TRUE(window.close());
-}
-
-TEST_F(Saving, endsWithAllWindowsOrWithNone) {
-    const QString path = desktop.file("cat.txt", "The cat sat.");
-    opened(path);
-    desktop.typedInto("The cat");
-    desktop.questions.unsaved = UnsavedAnswer::cancel;
-    desktop.documents.quit();
-    EXPECT_EQ(desktop.windows.windows().size(), 2);
-    desktop.questions.unsaved = UnsavedAnswer::discard;
-    desktop.documents.quit();
-    EXPECT_EQ(desktop.windows.windows().size(), 0);
-    EXPECT_EQ(desktop.questions.asked, (QStringList{"save Untitled?", "save Untitled?"}));
-    QApplication::processEvents();
-    EXPECT_EQ(desktop.remembered.session(), QStringList{path});
 }
 
 TEST_F(Saving, listsRecentFilesThatAreStillThere) {
