@@ -5,6 +5,7 @@
 namespace lexiform {
 
 void ViewController::parseText() {
+    noteShown(std::nullopt);
     clearWordDicts();
     totWordC = 0;
     const std::string text = present(intextTextbox).plainText();

@@ -13,9 +13,6 @@ namespace {
 /// The view that the pass ends with; it looks like the view by type that the pop-up chooses.
 constexpr int passView = 3;
 
-constexpr std::array fourSchemes = {NLTagSchemeScript, NLTagSchemeLanguage, NLTagSchemeNameTypeOrLexicalClass,
-                                    NLTagSchemeLemma};
-
 void enumerateWords(Tagger& tagger, std::string_view text, TagScheme scheme, const Tagger::Visitor& visitor) {
     tagger.enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, NLTaggerOptions(), visitor);
 }

@@ -1,5 +1,5 @@
 #include "analysis/ViewController.h"
-#include "analysis/collectTags.h"
+#include "analysis/shownText.h"
 #include "base/Unicode.h"
 #include "base/present.h"
 
@@ -11,7 +11,6 @@ namespace {
 constexpr int scriptView = 0;
 constexpr int languageView = 1;
 constexpr int standardTypesItem = 3;
-constexpr int lemmaView = 4;
 
 constexpr std::size_t shortLength = 5;
 
@@ -21,11 +20,6 @@ constexpr std::string_view titleDefault = "windowTitle";
 Colour colourOf(std::int64_t position) {
     return ViewController::stdColours.at(static_cast<std::size_t>(position) %
                                          ViewController::stdColours.size());
-}
-
-std::string_view shownText(const TaggedText& records, std::size_t i, int view) {
-    const std::string* const text = view == lemmaView ? records.lemma(i) : records.word(i);
-    return text == nullptr ? noTagValue : *text;
 }
 
 std::int64_t positionShown(const TaggedText& records, std::size_t i, int view) {
@@ -75,6 +69,7 @@ void ViewController::parse2PopupAction() {
 }
 
 void ViewController::showSchemeView(int schemeView) {
+    noteShown(schemeView);
     AttributedText listing;
     for (std::size_t i = 0; i < taggedText.size(); ++i)
         listing.append(shownText(taggedText, i, schemeView),

@@ -4,6 +4,7 @@
 #include "analysis/StringList.h"
 #include "analysis/TaggedText.h"
 #include "analysis/WordDictionary.h"
+#include "analysis/WordLookUp.h"
 #include "analysis/tagger/Tagger.h"
 #include "base/Colour.h"
 #include "ports/FileWriter.h"
@@ -21,6 +22,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -139,15 +141,24 @@ public:
     /// Adds `text` to the end of the output pane in the default text colour, with nothing between.
     void appendOutputText(std::string_view text);
 
+    /// What is known of the token that the output pane shows at a byte of its text: from the records
+    /// where it shows a view of them, else by tagging the paragraph. Nothing where no token is.
+    [[nodiscard]] std::optional<WordDetails> shownWordAt(std::size_t byte);
+
     /// Empties the ten word dictionaries and leaves everything else alone, `totWordC` included.
     void clearWordDicts();
 
 private:
+    [[nodiscard]] std::optional<WordDetails> recordShownAt(std::size_t byte) const;
+    /// The output pane is about to show a view of the records, or, given none, the lexical pass.
+    void noteShown(std::optional<int> view);
     /// The window that shows the controller's view; stops the program when there is none.
     [[nodiscard]] Window& window() const;
 
     TaggerFactory makeTagger_;
     AnalysisServices services_;
+    std::optional<int> shownView_;
+    std::optional<WordLookUp> lookUp_; ///< of the text that the output pane shows, once asked
 };
 
 constexpr std::array<WordDictionary ViewController::*, 10> ViewController::wordDictionaries() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 namespace lexiform {
@@ -11,5 +12,9 @@ inline constexpr TagScheme NLTagSchemeNameTypeOrLexicalClass = "NameTypeOrLexica
 inline constexpr TagScheme NLTagSchemeScript = "Script";
 inline constexpr TagScheme NLTagSchemeLanguage = "Language";
 inline constexpr TagScheme NLTagSchemeLemma = "Lemma";
+
+/// All of them.
+inline constexpr std::array fourSchemes = {NLTagSchemeScript, NLTagSchemeLanguage,
+                                           NLTagSchemeNameTypeOrLexicalClass, NLTagSchemeLemma};
 
 } // namespace lexiform

@@ -88,29 +88,40 @@ bool areKnown(std::span<const TagScheme> schemes) {
 
 LinguisticTagger::LinguisticTagger(std::shared_ptr<const Engine> engine, std::span<const TagScheme> schemes,
                                    std::optional<TextContext> context)
-    : engine_(std::move(engine)), context_(std::move(context)), keepsAnalysis_(schemes.size() > 1) {}
+    : engine_(std::move(engine)), given_(std::move(context)), keepsAnalysis_(schemes.size() > 1) {}
 
 void LinguisticTagger::setString(std::string text) {
     text_ = std::move(text);
+    own_.reset();
     words_.reset();
+}
+
+const TextContext& LinguisticTagger::context() {
+    if (given_) return *given_;
+    if (!own_) own_ = engine_->contextOf(text_);
+    return *own_;
 }
 
 void LinguisticTagger::enumerateTags(TextRange range, NLTokenUnit unit, TagScheme scheme,
                                      NLTaggerOptions options, const Visitor& visitor) {
     const std::string_view text = substring(text_, range);
-    const TextContext context = context_ ? *context_ : engine_->contextOf(text);
     const Visit visit(text, range.start, tagsUnder(scheme, unit), visitor);
     const bool everyWord = unit == NLTokenUnit::word && options.empty();
-    if (everyWord && keepsAnalysis_ && range.length == text_.size()) {
-        if (!words_) words_.emplace(text_, *engine_, context);
-        return words_->enumerate(scheme, visitor);
-    }
-    if (unit == NLTokenUnit::document) return visit.document(*engine_, context);
-    engine_->analyse(text, context, [&](const Paragraph& paragraph) {
+    if (everyWord && keepsAnalysis_) return enumerateKept(range, scheme, visitor);
+    if (unit == NLTokenUnit::document) return visit.document(*engine_, context());
+    engine_->analyse(text, context(), [&](const Paragraph& paragraph) {
         if (everyWord) return visit.everyToken(paragraph);
         if (unit == NLTokenUnit::word) return visit.words(paragraph, options);
         return unit == NLTokenUnit::sentence ? visit.sentences(paragraph) : visit.whole(paragraph);
     });
+}
+
+void LinguisticTagger::enumerateKept(TextRange range, TagScheme scheme, const Visitor& visitor) {
+    if (!words_ || kept_ != range) {
+        words_.emplace(substring(text_, range), *engine_, context());
+        kept_ = range;
+    }
+    words_->enumerate(scheme, range.start, visitor);
 }
 
 TaggerFactory linguisticTaggers(std::shared_ptr<const Engine> engine, std::optional<TextContext> context) {

@@ -15,7 +15,8 @@ namespace lexiform {
 /// the text does not tell, and a lemma that the engine does not give, are no tag. Units other than
 /// words have a tag under the script and language schemes alone.
 ///
-/// A tagger made for several schemes analyses its text once for all of them.
+/// A tagger made for several schemes analyses its text, or the range of it that it was asked for last, once
+/// for all of them. The language of short paragraphs is told from the whole text, whatever the range.
 class LinguisticTagger : public Tagger {
 public:
     /// A tagger of texts that stand by themselves, or, given a context, of parts of one.
@@ -27,10 +28,15 @@ public:
                        const Visitor& visitor) override;
 
 private:
+    [[nodiscard]] const linguistics::TextContext& context();
+    void enumerateKept(TextRange range, TagScheme scheme, const Visitor& visitor);
+
     std::shared_ptr<const linguistics::Engine> engine_;
-    std::optional<linguistics::TextContext> context_;
+    std::optional<linguistics::TextContext> given_;
     bool keepsAnalysis_;
     std::string text_;
+    std::optional<linguistics::TextContext> own_; ///< of the text, once it was needed
+    TextRange kept_;                              ///< what `words_` are the words of
     std::optional<TaggedWords> words_;
 };
 

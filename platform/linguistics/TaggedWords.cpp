@@ -21,10 +21,9 @@ TaggedWords::TaggedWords(std::string_view text, const linguistics::Engine& engin
     });
 }
 
-void TaggedWords::enumerate(TagScheme scheme, const Tagger::Visitor& visitor) const {
-    const auto column =
-        static_cast<std::size_t>(std::find(schemes_.begin(), schemes_.end(), scheme) - schemes_.begin());
-    std::size_t start = 0;
+void TaggedWords::enumerate(TagScheme scheme, std::size_t start, const Tagger::Visitor& visitor) const {
+    const auto column = static_cast<std::size_t>(std::find(fourSchemes.begin(), fourSchemes.end(), scheme) -
+                                                 fourSchemes.begin());
     for (const Word& word : words_) {
         const StringPool::Number number = word.tags.at(column);
         const auto tag = number == absentTag ? std::nullopt : std::optional<std::string_view>(tags_[number]);
@@ -37,8 +36,8 @@ void TaggedWords::add(const linguistics::Paragraph& paragraph, std::string_view 
     for (const linguistics::Token& token : paragraph.tokens) {
         Word& word = words_.emplace_back();
         word.length = static_cast<std::uint32_t>(token.range.length);
-        for (std::size_t column = 0; column < schemes_.size(); ++column) {
-            const auto tag = wordTagsUnder(schemes_[column])(token, text);
+        for (std::size_t column = 0; column < fourSchemes.size(); ++column) {
+            const auto tag = wordTagsUnder(fourSchemes[column])(token, text);
             word.tags[column] = tag ? tags_.numberOf(*tag) : absentTag;
         }
     }

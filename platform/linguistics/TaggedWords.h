@@ -18,16 +18,14 @@ public:
     TaggedWords(std::string_view text, const linguistics::Engine& engine,
                 const linguistics::TextContext& context);
 
-    /// Calls `visitor` for every word with its tag under one of the four schemes, until it has enough.
-    void enumerate(TagScheme scheme, const Tagger::Visitor& visitor) const;
+    /// Calls `visitor` for every word with its tag under one of the four schemes, until it has enough. The
+    /// text begins at byte `start` of the one that the ranges are told in.
+    void enumerate(TagScheme scheme, std::size_t start, const Tagger::Visitor& visitor) const;
 
 private:
-    static constexpr std::array schemes_ = {NLTagSchemeScript, NLTagSchemeLanguage,
-                                            NLTagSchemeNameTypeOrLexicalClass, NLTagSchemeLemma};
-
     struct Word {
         std::uint32_t length = 0; // bytes; an engine's token is far shorter than its paragraph
-        std::array<StringPool::Number, schemes_.size()> tags{};
+        std::array<StringPool::Number, fourSchemes.size()> tags{};
     };
 
     void add(const linguistics::Paragraph& paragraph, std::string_view text);

@@ -14,13 +14,14 @@ namespace {
 using linguistics::Engine;
 using linguistics::ModelStore;
 
-constexpr std::array fourSchemes = {NLTagSchemeScript, NLTagSchemeLanguage, NLTagSchemeNameTypeOrLexicalClass,
-                                    NLTagSchemeLemma};
-
-std::unique_ptr<Tagger> englishTagger(const std::string& text) {
+std::shared_ptr<const Engine> englishEngine() {
     const auto models =
         std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{LEXIFORM_MODELS_DIR});
-    auto tagger = linguisticTaggers(std::make_shared<const Engine>(models))(fourSchemes);
+    return std::make_shared<const Engine>(models);
+}
+
+std::unique_ptr<Tagger> englishTagger(const std::string& text) {
+    auto tagger = linguisticTaggers(englishEngine())(fourSchemes);
     tagger->setString(text);
     return tagger;
 }
@@ -41,6 +42,38 @@ Tagged tagsOf(const std::string& text, TextRange range, NLTokenUnit unit, TagSch
 
 Tagged taggedWordsOf(const std::string& text, TagScheme scheme = NLTagSchemeNameTypeOrLexicalClass) {
     return tagsOf(text, {0, text.size()}, NLTokenUnit::word, scheme);
+}
+
+TEST(LinguisticTagger, saysTheSameOfAParagraphAndOfTheTextThatItIsIn) {
+    const std::string title = "Die Insel\n\n";
+    const std::string text = title + "Das kleine Schiff brachte jeden Morgen frische Milch auf die Insel.\n";
+    std::array<Tagged, 2> tags;
+    for (const std::size_t length : {text.size(), title.size()}) {
+        LinguisticTagger tagger(englishEngine(), fourSchemes);
+        tagger.setString(text);
+        tagger.enumerateTags({0, length}, NLTokenUnit::word, NLTagSchemeLanguage, NLTaggerOptions(),
+                             [&](std::optional<std::string_view> tag, TextRange token) {
+                                 if (token.end() <= title.size())
+                                     tags.at(length == text.size() ? 0 : 1)
+                                         .emplace_back(substring(text, token), tag.value_or("-"));
+                                 return Next::proceed;
+                             });
+    }
+    ASSERT_FALSE(tags[0].empty());
+    EXPECT_EQ(tags[0].front().second, "de");
+    EXPECT_EQ(tags[1], tags[0]);
+}
+
+TEST(LinguisticTagger, countsTheTokensOfARangeFromTheStartOfTheText) {
+    LinguisticTagger tagger(englishEngine(), fourSchemes);
+    tagger.setString("One.\n\nTwo cats.");
+    std::vector<std::size_t> starts;
+    tagger.enumerateTags({6, 9}, NLTokenUnit::word, NLTagSchemeLemma, NLTaggerOptions(),
+                         [&](std::optional<std::string_view> /*tag*/, TextRange token) {
+                             starts.push_back(token.start);
+                             return Next::proceed;
+                         });
+    EXPECT_EQ(starts, (std::vector<std::size_t>{6, 9, 10, 14}));
 }
 
 TEST(LinguisticTagger, tagsWordsPunctuationAndWhiteSpace) {
