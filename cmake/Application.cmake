@@ -25,7 +25,7 @@ endfunction()
 
 # What a package is made of; the trainer is not.
 add_custom_target(programs)
-foreach(target lexiform-cli lexiform manual)
+foreach(target lexiform-cli lexiform manual translations)
   if(TARGET ${target})
     add_dependencies(programs ${target})
   endif()

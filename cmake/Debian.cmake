@@ -35,8 +35,10 @@ set(CPACK_DEBIAN_PACKAGE_SECTION text)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-# What is loaded at run time, where it is of use: Wayland, a GTK desktop's settings, letters of most scripts.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-gtk-platformtheme, fonts-noto-core")
+# What is loaded at run time, where it is of use: Wayland, a GTK desktop's settings, the dialogs' texts in other
+# languages, letters of most scripts.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+  "qt6-wayland, qt6-gtk-platformtheme, qt6-translations-l10n, fonts-noto-core")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-noto-cjk, fonts-noto-color-emoji")
 
 # Given to the script that completes the files, which runs as part of cpack and knows nothing of the build.

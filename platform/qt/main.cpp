@@ -20,11 +20,13 @@
 #include "platform/qt/theme/Theme.h"
 #include "platform/qt/windows/StateStore.h"
 #include "platform/qt/windows/documentScene.h"
+#include "platform/qt/windows/interfaceLanguage.h"
 #include "platform/qt/windows/messageBox.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QLocale>
 #include <QStandardPaths>
 
 #include <cstdio>
@@ -59,6 +61,11 @@ QStringList chooseFiles() {
                                          qt::openFilters().join(QLatin1String(";;")));
 }
 
+// Texts for a terminal are translated as well as windows.
+void translate(QCoreApplication& application) {
+    qt::translateInterface(application, QLocale(), qt::resourceFolder() + QStringLiteral("/translations"));
+}
+
 // Without its model the program still opens and shows texts, every word in the colour of no class.
 void tellOfMissingModel(const linguistics::ModelStore& models) {
     const auto outcome = models.check("en");
@@ -88,6 +95,7 @@ int run(QApplication& application, const QStringList& files) {
 
     qt::StateStore store(configFile(QStringLiteral("state.ini")));
     qt::Theme theme(application, store.appearance());
+    theme.setClassMarks(store.classMarks());
     qt::WindowList windows;
 
     const auto models = std::make_shared<const linguistics::ModelStore>(modelFolders());
@@ -128,7 +136,8 @@ int main(int argc, char** argv) {
 
     // Help and version are for a terminal, which may have no desktop.
     if (qt::asksForText(QStringList(argv, argv + argc))) {
-        const QCoreApplication terminal(argc, argv);
+        QCoreApplication terminal(argc, argv);
+        translate(terminal);
         return qt::filesToOpen(QCoreApplication::arguments()).isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
     }
     if (const auto fault = qt::missingDisplay(QStringList(argv, argv + argc))) {
@@ -136,5 +145,6 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     QApplication application(argc, argv);
+    translate(application);
     return run(application, qt::filesToOpen(QCoreApplication::arguments()));
 }

@@ -10,10 +10,6 @@ namespace lexiform::qt {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("DocumentQuestions", text);
-}
-
 // True when the person chose to go on. What is safe is the default.
 bool confirms(QWidget& window, const QString& question, const QString& details, const QString& goOn) {
     QMessageBox box(&window);
@@ -28,10 +24,13 @@ bool confirms(QWidget& window, const QString& question, const QString& details, 
 
 UnsavedAnswer DialogQuestions::askToSave(QWidget& window, const QString& name) {
     QMessageBox box(&window);
-    fillMessageBox(box, tr("Save the changes to “%1”?").arg(name),
-                   tr("They are lost if they are not saved."));
-    QPushButton* const save = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
-    const QAbstractButton* discard = box.addButton(tr("&Don’t Save"), QMessageBox::DestructiveRole);
+    fillMessageBox(box,
+                   QCoreApplication::translate("DocumentQuestions", "Save the changes to “%1”?").arg(name),
+                   QCoreApplication::translate("DocumentQuestions", "They are lost if they are not saved."));
+    QPushButton* const save =
+        box.addButton(QCoreApplication::translate("DocumentQuestions", "&Save"), QMessageBox::AcceptRole);
+    const QAbstractButton* discard = box.addButton(
+        QCoreApplication::translate("DocumentQuestions", "&Don’t Save"), QMessageBox::DestructiveRole);
     box.addButton(QMessageBox::Cancel);
     box.setDefaultButton(save);
     box.exec();
@@ -41,11 +40,18 @@ UnsavedAnswer DialogQuestions::askToSave(QWidget& window, const QString& name) {
 
 OtherTextAnswer DialogQuestions::askToSaveOtherText(QWidget& window, const QString& name) {
     QMessageBox box(&window);
-    fillMessageBox(box, tr("Replace the text of “%1” with the output pane?").arg(name),
-                   tr("What is saved is the output pane, which holds other characters than the text. "
-                      "Parsing again puts the text there."));
-    QPushButton* const saveAs = box.addButton(tr("Save &As…"), QMessageBox::AcceptRole);
-    const QAbstractButton* replace = box.addButton(tr("&Replace"), QMessageBox::DestructiveRole);
+    fillMessageBox(
+        box,
+        QCoreApplication::translate("DocumentQuestions", "Replace the text of “%1” with the output pane?")
+            .arg(name),
+        QCoreApplication::translate(
+            "DocumentQuestions",
+            "What is saved is the output pane, which holds other characters than the text. "
+            "Parsing again puts the text there."));
+    QPushButton* const saveAs =
+        box.addButton(QCoreApplication::translate("DocumentQuestions", "Save &As…"), QMessageBox::AcceptRole);
+    const QAbstractButton* replace = box.addButton(
+        QCoreApplication::translate("DocumentQuestions", "&Replace"), QMessageBox::DestructiveRole);
     box.addButton(QMessageBox::Cancel);
     box.setDefaultButton(saveAs);
     box.exec();
@@ -55,20 +61,29 @@ OtherTextAnswer DialogQuestions::askToSaveOtherText(QWidget& window, const QStri
 
 bool DialogQuestions::askToSaveWithoutEdits(QWidget& window, const QString& name) {
     return confirms(
-        window, tr("Save “%1” without its latest changes?").arg(name),
-        tr("What is saved is the output pane, which does not show them. Parsing puts them there."),
-        tr("&Save Without"));
+        window,
+        QCoreApplication::translate("DocumentQuestions", "Save “%1” without its latest changes?").arg(name),
+        QCoreApplication::translate(
+            "DocumentQuestions",
+            "What is saved is the output pane, which does not show them. Parsing puts them there."),
+        QCoreApplication::translate("DocumentQuestions", "&Save Without"));
 }
 
 bool DialogQuestions::askToOverwriteChange(QWidget& window, const QString& name) {
-    return confirms(window, tr("“%1” was changed by another program.").arg(name),
-                    tr("Saving replaces what it holds now."), tr("&Replace"));
+    return confirms(
+        window,
+        QCoreApplication::translate("DocumentQuestions", "“%1” was changed by another program.").arg(name),
+        QCoreApplication::translate("DocumentQuestions", "Saving replaces what it holds now."),
+        QCoreApplication::translate("DocumentQuestions", "&Replace"));
 }
 
 bool DialogQuestions::askToRevert(QWidget& window, const QString& name) {
-    return confirms(window, tr("Go back to “%1” as it was saved?").arg(name),
-                    tr("The document then counts as unchanged. Its input pane keeps its text."),
-                    tr("Re&vert"));
+    return confirms(
+        window,
+        QCoreApplication::translate("DocumentQuestions", "Go back to “%1” as it was saved?").arg(name),
+        QCoreApplication::translate("DocumentQuestions",
+                                    "The document then counts as unchanged. Its input pane keeps its text."),
+        QCoreApplication::translate("DocumentQuestions", "Re&vert"));
 }
 
 std::optional<SaveTarget> DialogQuestions::chooseTarget(QWidget& window, const SaveTarget& proposal) {
@@ -79,7 +94,10 @@ std::optional<SaveTarget> DialogQuestions::chooseTarget(QWidget& window, const S
 
 void DialogQuestions::tellNotSaved(QWidget& window, const QString& name, const QString& reason) {
     QMessageBox box(&window);
-    fillMessageBox(box, tr("The document “%1” could not be saved.").arg(name), reason);
+    fillMessageBox(
+        box,
+        QCoreApplication::translate("DocumentQuestions", "The document “%1” could not be saved.").arg(name),
+        reason);
     box.exec();
 }
 

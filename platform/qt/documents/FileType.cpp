@@ -37,10 +37,6 @@ constexpr std::array<KnownExtension, 9> knownExtensions{{{"txt", plainTextType},
                                                          {"docx", docxType},
                                                          {"epub", epubType}}};
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("FileType", text);
-}
-
 std::string_view typeByContent(std::string_view bytes) {
     const auto format = document::detectFormat(bytes);
     if (!format) return dataType;
@@ -81,14 +77,16 @@ QString extensionOf(std::string_view type) {
 }
 
 QString nameFilterOf(std::string_view type) {
-    return type == plainTextType ? tr("Plain text (*.txt)") : tr("Rich text (*.rtf)");
+    return type == plainTextType ? QCoreApplication::translate("FileType", "Plain text (*.txt)")
+                                 : QCoreApplication::translate("FileType", "Rich text (*.rtf)");
 }
 
 QStringList openFilters() {
     QStringList patterns;
     for (const KnownExtension& row : knownExtensions)
         patterns.append(QStringLiteral("*.") + QLatin1String(row.extension));
-    return {tr("Texts (%1)").arg(patterns.join(u' ')), tr("All files (*)")};
+    return {QCoreApplication::translate("FileType", "Texts (%1)").arg(patterns.join(u' ')),
+            QCoreApplication::translate("FileType", "All files (*)")};
 }
 
 } // namespace lexiform::qt

@@ -4,14 +4,6 @@
 
 namespace lexiform::qt {
 
-namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("commandLine", text);
-}
-
-} // namespace
-
 bool asksForText(const QStringList& arguments) {
     static const QStringList questions = {QStringLiteral("--help"), QStringLiteral("-h"),
                                           QStringLiteral("--help-all"), QStringLiteral("--version"),
@@ -25,10 +17,13 @@ bool asksForText(const QStringList& arguments) {
 
 QStringList filesToOpen(const QStringList& arguments) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Reads a text and colours every word by its class."));
+    parser.setApplicationDescription(
+        QCoreApplication::translate("commandLine", "Reads a text and colours every word by its class."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("FILE"), tr("Texts to open."), QStringLiteral("[FILE...]"));
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QCoreApplication::translate("commandLine", "Texts to open."),
+                                 QStringLiteral("[FILE...]"));
     parser.process(arguments);
     return parser.positionalArguments();
 }

@@ -13,12 +13,8 @@ namespace lexiform::qt {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("saveFile", text);
-}
-
 SaveFault faultOf(const QSaveFile& file) {
-    return {tr("%1.").arg(file.errorString())};
+    return {QCoreApplication::translate("saveFile", "%1.").arg(file.errorString())};
 }
 
 // A disk that fills up takes a part, and tells what is wrong when it is asked to take the rest.
@@ -35,10 +31,14 @@ bool writeAll(QSaveFile& file, std::string_view bytes) {
 
 Outcome<Done, SaveFault> saveFile(const QString& path, std::string_view bytes) {
     const QFileInfo info(path);
-    if (info.isDir()) return SaveFault{tr("There is a folder of that name.")};
-    if (info.exists() && !info.isFile()) return SaveFault{tr("It is not an ordinary file.")};
-    if (info.exists() && !info.isWritable()) return SaveFault{tr("The file may only be read.")};
-    if (!info.absoluteDir().exists()) return SaveFault{tr("Its folder is no longer there.")};
+    if (info.isDir())
+        return SaveFault{QCoreApplication::translate("saveFile", "There is a folder of that name.")};
+    if (info.exists() && !info.isFile())
+        return SaveFault{QCoreApplication::translate("saveFile", "It is not an ordinary file.")};
+    if (info.exists() && !info.isWritable())
+        return SaveFault{QCoreApplication::translate("saveFile", "The file may only be read.")};
+    if (!info.absoluteDir().exists())
+        return SaveFault{QCoreApplication::translate("saveFile", "Its folder is no longer there.")};
     if (hasOtherNames(path)) return writeInPlace(path, bytes);
 
     QSaveFile file(path);
@@ -46,7 +46,8 @@ Outcome<Done, SaveFault> saveFile(const QString& path, std::string_view bytes) {
     // place of the old one. Nor does it when the disk turns out to be full or broken only when it is reached.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return faultOf(file);
     if (!writeAll(file, bytes)) return faultOf(file);
-    if (fsync(file.handle()) != 0) return SaveFault{tr("%1.").arg(qt_error_string())};
+    if (fsync(file.handle()) != 0)
+        return SaveFault{QCoreApplication::translate("saveFile", "%1.").arg(qt_error_string())};
     if (!file.commit()) return faultOf(file);
     return Done{};
 }

@@ -1,6 +1,7 @@
 #include "platform/qt/panes/KeyTextEdit.h"
 
 #include "platform/qt/panes/PaneDocumentLayout.h"
+#include "platform/qt/panes/classLines.h"
 #include "platform/qt/panes/commaBreaks.h"
 #include "platform/qt/theme/Appearance.h"
 
@@ -26,6 +27,11 @@ KeyTextEdit::KeyTextEdit(QWidget* parent) : PaneTextEdit(keyMargins, parent) {
     paneLayout().setLineBreaking(breakAfterCommas);
 }
 
+void KeyTextEdit::setClassMarks(const ClassMarks& marks) {
+    marks_ = marks;
+    viewport()->update();
+}
+
 void KeyTextEdit::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
@@ -37,6 +43,19 @@ void KeyTextEdit::paintEvent(QPaintEvent* event) {
     }
     painter.end();
     PaneTextEdit::paintEvent(event);
+    if (marks_.underlined) paintClassLines();
+}
+
+// The words of the key stay in the text colour, with the lines that words of their class have.
+void KeyTextEdit::paintClassLines() {
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    ClassLinePainter lines(painter, font());
+    for (int line = 0; line < classColours && 2 * line < document()->blockCount(); ++line) {
+        const QTextBlock block = document()->findBlockByNumber(2 * line);
+        lines.paint(block, blockBoundingGeometry(block).translated(contentOffset()).top(), 0, block.length(),
+                    static_cast<Colour>(line), palette().color(QPalette::Text));
+    }
 }
 
 QString KeyTextEdit::meaningOf(Colour colour) const {
@@ -68,7 +87,7 @@ void KeyTextEdit::paintSwatch(QPainter& painter, int line, const QTextBlock& blo
     const qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
     const QTextLine first = block.layout()->lineAt(0);
     const qreal middle = top + first.y() + first.ascent() - QFontMetricsF(font()).capHeight() / 2;
-    painter.setBrush(valueOf(static_cast<Colour>(line), appearanceOf(palette())));
+    painter.setBrush(valueOf(static_cast<Colour>(line), appearanceOf(palette()), marks_.palette));
     painter.drawRoundedRect(QRectF(swatchLeft, std::round(middle - swatchSize / 2.0), swatchSize, swatchSize),
                             swatchRadius, swatchRadius);
 }

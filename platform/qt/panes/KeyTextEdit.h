@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/qt/panes/PaneTextEdit.h"
+#include "platform/qt/theme/ClassMarks.h"
 
 namespace lexiform::qt {
 
@@ -17,6 +18,8 @@ public:
 
     /// What the key says of a colour: its line, empty for a colour without one.
     [[nodiscard]] QString meaningOf(Colour colour) const;
+    /// How the swatches and their lines are shown.
+    void setClassMarks(const ClassMarks& marks);
 
 signals:
     /// A line that has a swatch was clicked, or Enter pressed in it.
@@ -30,6 +33,9 @@ protected:
 private:
     void choose(const QTextCursor& cursor);
     void paintSwatch(QPainter& painter, int line, const QTextBlock& block) const;
+    void paintClassLines();
+
+    ClassMarks marks_;
 };
 
 } // namespace lexiform::qt

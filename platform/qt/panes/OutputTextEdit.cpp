@@ -3,10 +3,12 @@
 #include "platform/qt/panes/ColouredMimeData.h"
 #include "platform/qt/panes/PaneDocumentLayout.h"
 #include "platform/qt/panes/TextBlocks.h"
+#include "platform/qt/panes/classLines.h"
 #include "platform/qt/panes/lineEndMarks.h"
-#include "platform/qt/theme/Appearance.h"
+#include "platform/qt/panes/utf8Length.h"
 
 #include <QEvent>
+#include <QPaintEvent>
 #include <QTextBlock>
 
 #include <algorithm>
@@ -45,6 +47,11 @@ void OutputTextEdit::toggleOnly(Colour colour) {
     forgetPaintedColours();
 }
 
+void OutputTextEdit::setClassMarks(const ClassMarks& marks) {
+    marks_ = marks;
+    forgetPaintedColours();
+}
+
 std::optional<Colour> OutputTextEdit::colourAt(int position) const {
     const QTextBlock block = document()->findBlock(position);
     const auto number = static_cast<std::size_t>(block.blockNumber());
@@ -57,9 +64,45 @@ std::optional<Colour> OutputTextEdit::colourAt(int position) const {
     return found;
 }
 
+std::optional<std::size_t> OutputTextEdit::byteAt(int position) const {
+    const QTextBlock block = document()->findBlock(position);
+    const auto number = static_cast<std::size_t>(block.blockNumber());
+    const int at = position - block.position();
+    if (!block.isValid() || number >= blockStarts_.size() || at >= block.length() - 1) return std::nullopt;
+    return blockStarts_[number] + utf8Length(QStringView(block.text()).first(at));
+}
+
 void OutputTextEdit::changeEvent(QEvent* event) {
     PaneTextEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) forgetPaintedColours();
+}
+
+void OutputTextEdit::paintEvent(QPaintEvent* event) {
+    PaneTextEdit::paintEvent(event);
+    if (marks_.underlined) paintClassLines(event->rect());
+}
+
+void OutputTextEdit::paintClassLines(const QRect& rect) {
+    QPainter painter(viewport());
+    painter.setClipRect(rect);
+    painter.setRenderHint(QPainter::Antialiasing);
+    ClassLinePainter lines(painter, font());
+    QTextBlock block = firstVisibleBlock();
+    qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+    for (; block.isValid() && top <= rect.bottom(); block = block.next()) {
+        const qreal height = blockBoundingRect(block).height();
+        if (block.isVisible() && top + height >= rect.top()) paintClassLines(lines, block, top);
+        top += height;
+    }
+}
+
+void OutputTextEdit::paintClassLines(ClassLinePainter& lines, const QTextBlock& block, qreal top) const {
+    const Appearance appearance = appearanceOf(palette());
+    const auto paint = [&](qsizetype start, qsizetype length, Colour colour) {
+        if (only_ && colour != *only_) return;
+        lines.paint(block, top, start, length, colour, valueOf(colour, appearance, marks_.palette));
+    };
+    runs_.visit(blockStarts_[static_cast<std::size_t>(block.blockNumber())], block.text(), paint);
 }
 
 void OutputTextEdit::forgetPaintedColours() {
@@ -86,7 +129,7 @@ QList<QTextLayout::FormatRange> OutputTextEdit::formatsOf(const QTextBlock& bloc
         if (colour == Colour::text && !isDimmed) return;
         QTextLayout::FormatRange range{static_cast<int>(start), static_cast<int>(length), {}};
         range.format.setForeground(isDimmed ? surfacesOf(appearance).disabledText
-                                            : valueOf(colour, appearance));
+                                            : valueOf(colour, appearance, marks_.palette));
         formats.push_back(range);
     };
     runs_.visit(blockStarts_[static_cast<std::size_t>(block.blockNumber())], text, add);

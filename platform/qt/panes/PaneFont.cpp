@@ -9,6 +9,12 @@
 
 namespace lexiform::qt {
 
+namespace {
+
+constexpr int usualSize = 12; // points
+
+} // namespace
+
 QFont paneFont() {
     QFont font = QApplication::font();
     for (const QString& family :
@@ -17,7 +23,8 @@ QFont paneFont() {
         font.setFamilies({family});
         break;
     }
-    font.setPointSize(12);
+    // A desktop set to larger text than this has its reasons.
+    font.setPointSize(std::max(usualSize, font.pointSize()));
     font.setStyleHint(QFont::SansSerif);
     return font;
 }

@@ -110,6 +110,7 @@ void PaneTextEdit::prepareAddition(const AttributedText& /*text*/, const TextBlo
 void PaneTextEdit::changeEvent(QEvent* event) {
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange && layout_ != nullptr) takeSpacingFromFont();
+    if (event->type() == QEvent::ApplicationFontChange) setZoom(zoom_);
 }
 
 void PaneTextEdit::takeSpacingFromFont() {

@@ -20,6 +20,11 @@ ColourChip::ColourChip(Colour colour, Appearance appearance, QWidget* parent)
     setFont(paneFont());
 }
 
+void ColourChip::setClassPalette(ClassPalette palette) {
+    classPalette_ = palette;
+    update();
+}
+
 // Each chip has an outline where its pane would melt into the sheet round it.
 void ColourChip::paintEvent(QPaintEvent* /*event*/) {
     const Surfaces& own = surfacesOf(appearance_);
@@ -28,7 +33,7 @@ void ColourChip::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(appearance_ == Appearance::light ? own.paneBorder : own.disabledBorder);
     painter.setBrush(own.pane);
     painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), chipRadius, chipRadius);
-    painter.setPen(valueOf(colour_, appearance_));
+    painter.setPen(valueOf(colour_, appearance_, classPalette_));
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("Aa"));
 }
 

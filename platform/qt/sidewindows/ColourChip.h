@@ -14,11 +14,14 @@ class ColourChip : public QWidget {
 public:
     ColourChip(Colour colour, Appearance appearance, QWidget* parent);
 
+    void setClassPalette(ClassPalette palette);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Colour colour_;
+    ClassPalette classPalette_ = ClassPalette::standard;
     Appearance appearance_;
 };
 

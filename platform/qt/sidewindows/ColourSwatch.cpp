@@ -17,11 +17,16 @@ ColourSwatch::ColourSwatch(Colour colour, QWidget* parent) : QWidget(parent), co
     setFixedSize(swatchSize, swatchSize);
 }
 
+void ColourSwatch::setClassPalette(ClassPalette palette) {
+    classPalette_ = palette;
+    update();
+}
+
 void ColourSwatch::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(valueOf(colour_, appearanceOf(palette())));
+    painter.setBrush(valueOf(colour_, appearanceOf(palette()), classPalette_));
     painter.drawRoundedRect(rect(), swatchRadius, swatchRadius);
 }
 

@@ -13,11 +13,14 @@ class ColourSwatch : public QWidget {
 public:
     ColourSwatch(Colour colour, QWidget* parent);
 
+    void setClassPalette(ClassPalette palette);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Colour colour_;
+    ClassPalette classPalette_ = ClassPalette::standard;
 };
 
 } // namespace lexiform::qt

@@ -3,6 +3,7 @@
 #include "platform/qt/sidewindows/ColourChip.h"
 #include "platform/qt/sidewindows/ColourSwatch.h"
 #include "platform/qt/theme/Appearance.h"
+#include "platform/qt/theme/CaptionFont.h"
 
 #include <QPainter>
 
@@ -22,16 +23,26 @@ struct Row {
     const char* wordClass;
 };
 // In the order of the colours.
-constexpr std::array<Row, 10> rows = {{{QT_TRANSLATE_NOOP("ColourTable", "gray"), "particle"},
-                                       {"red", "verb"},
-                                       {"blue", "noun"},
-                                       {"green", "adjective"},
-                                       {"purple", "adverb"},
-                                       {"yellow", "pronoun"},
-                                       {"brown", "determiner"},
-                                       {"pink", "preposition"},
-                                       {"orange", "conjunction"},
-                                       {"text", "name"}}};
+constexpr std::array<Row, 10> rows = {{{QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "gray"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "particle")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "red"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "verb")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "blue"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "noun")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "green"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "adjective")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "purple"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "adverb")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "yellow"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "pronoun")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "brown"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "determiner")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "pink"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "preposition")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "orange"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "conjunction")},
+                                       {QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "text"),
+                                        QT_TRANSLATE_NOOP("lexiform::qt::ColourTable", "name")}}};
 
 } // namespace
 
@@ -54,10 +65,7 @@ void ColourTable::addHeadings() {
         {{swatch, tr("Colour")}, {wordClass, tr("Class")}, {lightChip, tr("Light")}, {darkChip, tr("Dark")}}};
     for (const auto& [column, text] : headings) {
         auto* heading = new QLabel(text, this);
-        QFont font = heading->font();
-        font.setPointSizeF(font.pointSizeF() - 1);
-        font.setWeight(QFont::DemiBold);
-        heading->setFont(font);
+        new CaptionFont(*heading, QFont::DemiBold);
         heading->setForegroundRole(QPalette::PlaceholderText);
         grid_->addWidget(heading, 0, column, 1, 2);
     }
@@ -71,10 +79,24 @@ void ColourTable::addRow(int row, Colour colour, const QString& colourName, cons
     for (const auto& [appearance, column] :
          {std::pair{Appearance::light, lightChip}, std::pair{Appearance::dark, darkChip}}) {
         grid_->addWidget(new ColourChip(colour, appearance, this), row, column);
-        QLabel* value = addLabel(row, column + 1, valueOf(colour, appearance).name().toUpper());
-        value->setForegroundRole(QPalette::PlaceholderText);
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        addValue(row, column + 1, colour, appearance);
     }
+}
+
+void ColourTable::addValue(int row, int column, Colour colour, Appearance appearance) {
+    QLabel* label = addLabel(row, column, valueOf(colour, appearance).name().toUpper());
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    values_.append({colour, appearance, label});
+}
+
+void ColourTable::setClassPalette(ClassPalette palette) {
+    for (auto* swatchOfRow : findChildren<ColourSwatch*>())
+        swatchOfRow->setClassPalette(palette);
+    for (auto* chip : findChildren<ColourChip*>())
+        chip->setClassPalette(palette);
+    for (const Value& value : values_)
+        value.label->setText(valueOf(value.colour, value.appearance, palette).name().toUpper());
 }
 
 QLabel* ColourTable::addLabel(int row, int column, const QString& text) {

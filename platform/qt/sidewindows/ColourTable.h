@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Colour.h"
+#include "platform/qt/theme/Appearance.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -16,6 +16,9 @@ class ColourTable : public QWidget {
 public:
     explicit ColourTable(QWidget* parent = nullptr);
 
+    /// Which values are shown; the standard ones at first.
+    void setClassPalette(ClassPalette palette);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -23,8 +26,16 @@ private:
     void addHeadings();
     void addRow(int row, Colour colour, const QString& name, const QString& wordClass);
     QLabel* addLabel(int row, int column, const QString& text);
+    void addValue(int row, int column, Colour colour, Appearance appearance);
+
+    struct Value {
+        Colour colour;
+        Appearance appearance;
+        QLabel* label;
+    };
 
     QGridLayout* grid_;
+    QList<Value> values_;
 };
 
 } // namespace lexiform::qt

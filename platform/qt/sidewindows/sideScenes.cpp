@@ -9,6 +9,8 @@
 #include "platform/qt/sidewindows/QtPdfView.h"
 #include "platform/qt/sidewindows/Sheet.h"
 #include "platform/qt/sidewindows/SideWindow.h"
+#include "platform/qt/windows/RememberedPlace.h"
+#include "platform/qt/windows/followClassMarks.h"
 
 #include <QCoreApplication>
 #include <QVBoxLayout>
@@ -23,10 +25,6 @@ constexpr int sheetMargin = 8;
 constexpr QSize paletteSize{192, 500};
 constexpr QSize helpSize{640, 720};
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("sideScenes", text);
-}
-
 // The line of a sheet's own outline stays free.
 Sheet* sheetWith(QWidget* content) {
     auto* sheet = new Sheet;
@@ -39,8 +37,11 @@ Sheet* sheetWith(QWidget* content) {
 } // namespace
 
 std::shared_ptr<SceneController> makeColourScene(const WindowServices& services) {
-    auto window =
-        std::make_unique<SideWindow>(tr("Colours"), sheetWith(new ColourTable), sheetMargin, services);
+    auto* table = new ColourTable;
+    followClassMarks(services.theme, *table,
+                     [table](const ClassMarks& marks) { table->setClassPalette(marks.palette); });
+    auto window = std::make_unique<SideWindow>(QCoreApplication::translate("sideScenes", "Colours"),
+                                               sheetWith(table), sheetMargin, services);
     window->layout()->setSizeConstraint(QLayout::SetFixedSize);
     return SideWindow::makeController(std::move(window), nullptr);
 }
@@ -48,8 +49,10 @@ std::shared_ptr<SceneController> makeColourScene(const WindowServices& services)
 std::shared_ptr<SceneController> makePaletteScene(const std::shared_ptr<UserDefaults>& defaults,
                                                   const WindowServices& services) {
     auto* key = new KeyTextEdit;
-    auto window = std::make_unique<SideWindow>(tr("Palette"), sheetWith(key), sheetMargin, services);
-    window->resize(paletteSize);
+    followClassMarks(services.theme, *key, [key](const ClassMarks& marks) { key->setClassMarks(marks); });
+    auto window = std::make_unique<SideWindow>(QCoreApplication::translate("sideScenes", "Palette"),
+                                               sheetWith(key), sheetMargin, services);
+    new RememberedPlace(*window, QStringLiteral("palette"), paletteSize, services);
     auto controller = std::make_shared<PaletteViewController>(defaults);
     controller->paletteKeyText = std::make_shared<QtTextField>(key);
     return SideWindow::makeController(std::move(window), controller);
@@ -58,8 +61,9 @@ std::shared_ptr<SceneController> makePaletteScene(const std::shared_ptr<UserDefa
 std::shared_ptr<SceneController> makeHelpScene(const std::shared_ptr<Bundle>& bundle,
                                                const WindowServices& services) {
     auto* view = new ManualView;
-    auto window = std::make_unique<SideWindow>(tr("Help"), view, 0, services);
-    window->resize(helpSize);
+    auto window =
+        std::make_unique<SideWindow>(QCoreApplication::translate("sideScenes", "Help"), view, 0, services);
+    new RememberedPlace(*window, QStringLiteral("help"), helpSize, services);
     auto controller = std::make_shared<HelpViewController>(bundle, QtPdfDocument::read);
     controller->helpPDFView = std::make_shared<QtPdfView>(view);
     return SideWindow::makeController(std::move(window), controller);

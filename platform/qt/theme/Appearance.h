@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QPalette>
 
+#include <cstdint>
+
 namespace lexiform::qt {
 
 /// Whether the desktop shows dark text on light surfaces or the reverse.
@@ -13,9 +15,14 @@ enum class Appearance { light, dark };
 /// Dark when the palette's window text is lighter than its window.
 [[nodiscard]] Appearance appearanceOf(const QPalette& palette);
 
+/// The values that the class colours have on the screen: the standard ones, or others that can be told
+/// apart without red, without green and without blue cones in the eye as well.
+enum class ClassPalette : std::uint8_t { standard, colourBlind };
+
 /// The value of a colour on a pane of this appearance. Every one has a contrast of at least 4.6:1
 /// with its pane.
-[[nodiscard]] QColor valueOf(Colour colour, Appearance appearance);
+[[nodiscard]] QColor valueOf(Colour colour, Appearance appearance,
+                             ClassPalette palette = ClassPalette::standard);
 
 /// The neutral surfaces of the windows. Hue belongs to words: the only other tint is `focus`.
 struct Surfaces {

@@ -43,6 +43,12 @@ void Theme::setChoice(AppearanceChoice choice) {
     emit choiceChanged();
 }
 
+void Theme::setClassMarks(const ClassMarks& marks) {
+    if (classMarks_ == marks) return;
+    classMarks_ = marks;
+    emit classMarksChanged();
+}
+
 bool Theme::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::ApplicationPaletteChange && watched == &application_ && !dressing_)
         followDesktop();

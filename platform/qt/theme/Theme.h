@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/theme/Appearance.h"
+#include "platform/qt/theme/ClassMarks.h"
 
 #include <QApplication>
 #include <QObject>
@@ -26,10 +26,15 @@ public:
     [[nodiscard]] Appearance appearance() const { return shown_; }
     void setChoice(AppearanceChoice choice);
 
+    /// How all windows mark the classes of words.
+    [[nodiscard]] const ClassMarks& classMarks() const { return classMarks_; }
+    void setClassMarks(const ClassMarks& marks);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void choiceChanged();
+    void classMarksChanged();
 
 private:
     void followDesktop();
@@ -40,6 +45,7 @@ private:
     Appearance desktop_;
     Appearance shown_ = Appearance::light;
     bool dressing_ = false;
+    ClassMarks classMarks_;
 };
 
 } // namespace lexiform::qt

@@ -22,12 +22,12 @@ QAction* makeUpdateState(QObject* owner) {
 
 ApplicationActions makeApplicationActions(QObject* owner) {
     const ApplicationActions actions{
-        .openColours = makeAction(owner, "&Colours"),
-        .openPalette = makeAction(owner, "&Palette"),
-        .openHelp = makeAction(owner, "Lexiform &Help"),
+        .openColours = makeAction(owner, QT_TRANSLATE_NOOP("ApplicationActions", "&Colours")),
+        .openPalette = makeAction(owner, QT_TRANSLATE_NOOP("ApplicationActions", "&Palette")),
+        .openHelp = makeAction(owner, QT_TRANSLATE_NOOP("ApplicationActions", "Lexiform &Help")),
         .updateState = makeUpdateState(owner),
-        .openUpdates = makeAction(owner, "Application &Updates"),
-        .openSupport = makeAction(owner, "&Support"),
+        .openUpdates = makeAction(owner, QT_TRANSLATE_NOOP("ApplicationActions", "Application &Updates")),
+        .openSupport = makeAction(owner, QT_TRANSLATE_NOOP("ApplicationActions", "&Support")),
     };
     actions.openHelp->setShortcut(QKeySequence::HelpContents);
     return actions;

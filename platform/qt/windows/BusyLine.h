@@ -8,6 +8,8 @@ namespace lexiform::qt {
 /// A thin line with a piece that wanders along it while the program is busy. It keeps its place when
 /// hidden.
 class BusyLine : public QProgressBar {
+    Q_OBJECT
+
 public:
     explicit BusyLine(QWidget* parent = nullptr);
 

@@ -1,6 +1,7 @@
 #include "platform/qt/windows/DocumentMenuBar.h"
 
 #include "platform/qt/windows/AppearanceMenu.h"
+#include "platform/qt/windows/ClassMarkActions.h"
 #include "platform/qt/windows/FullScreenAction.h"
 #include "platform/qt/windows/WindowMenu.h"
 #include "platform/qt/windows/showAbout.h"
@@ -38,6 +39,7 @@ void DocumentMenuBar::addViewMenu(const PaneCommands& panes, const WindowService
     menu->addActions(panes.views());
     menu->addSeparator();
     menu->addMenu(new AppearanceMenu(services.theme, services.store, this));
+    menu->addActions((new ClassMarkActions(services.theme, services.store, this))->all());
     menu->addSeparator();
     menu->addAction(new FullScreenAction(*window()));
 }

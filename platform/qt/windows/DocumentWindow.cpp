@@ -2,14 +2,14 @@
 
 #include "platform/qt/windows/DocumentMenuBar.h"
 #include "platform/qt/windows/FileDropTarget.h"
+#include "platform/qt/windows/RememberedPlace.h"
 #include "platform/qt/windows/ScreenAppearance.h"
 #include "platform/qt/windows/WaitCursor.h"
 #include "platform/qt/windows/connectPanes.h"
+#include "platform/qt/windows/followClassMarks.h"
 #include "platform/qt/windows/wordCount.h"
 
 #include <QCloseEvent>
-#include <QScreen>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -34,7 +34,12 @@ DocumentWindow::DocumentWindow(std::shared_ptr<ViewController> controller, const
     buildBars(services);
     setCentralWidget(makeContent());
     connectCommands();
-    restoreState();
+    panes_->arrange(store_.paneSizes());
+    new RememberedPlace(*this, QStringLiteral("window"), defaultSize, services);
+    followClassMarks(services.theme, *this, [this](const ClassMarks& marks) {
+        panes_->output()->setClassMarks(marks);
+        panes_->key()->setClassMarks(marks);
+    });
     panes_->input()->setFocus();
     services.windows.add(this);
     new ScreenAppearance(*this, [this] { run(&ViewController::viewDidAppear, &DocumentWindow::showParsed); });
@@ -56,7 +61,6 @@ void DocumentWindow::markSaved() {
 
 void DocumentWindow::closeEvent(QCloseEvent* event) {
     if (mayClose_ && !mayClose_()) return event->ignore();
-    if (!isFullScreen() && !isMaximized()) store_.setWindowSize(size());
     QMainWindow::closeEvent(event);
     if (event->isAccepted()) emit closed();
 }
@@ -97,7 +101,8 @@ void DocumentWindow::connectCommands() {
     connect(panes_->input()->document(), &QTextDocument::modificationChanged, statusLine_,
             &StatusLine::showEdited);
     connect(new FileDropTarget(*this), &FileDropTarget::dropped, this, &DocumentWindow::filesDropped);
-    connectPanes(*panes_, paneCommands_.find());
+    connectPanes(*panes_, paneCommands_.find(),
+                 [this](std::size_t byte) { return controller_->shownWordAt(byte); });
     connect(panes_, &PaneSplitter::arranged, this,
             [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
 }
@@ -132,14 +137,6 @@ void DocumentWindow::showUnparsed() {
         statusLine_->showNothing();
     else
         statusLine_->showUnparsed();
-}
-
-void DocumentWindow::restoreState() {
-    const QSize size = store_.windowSize();
-    // The frame is not there yet: its title bar is allowed for, or the status line ends off the screen.
-    const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    resize((size.isValid() ? size : defaultSize).boundedTo(screen()->availableSize() - titleBar));
-    panes_->arrange(store_.paneSizes());
 }
 
 } // namespace lexiform::qt

@@ -66,7 +66,6 @@ private:
     void showParsed();
     void showMultiParsed();
     void showUnparsed();
-    void restoreState();
 
     std::shared_ptr<ViewController> controller_;
     StateStore& store_;

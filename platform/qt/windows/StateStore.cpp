@@ -9,12 +9,14 @@ namespace lexiform::qt {
 
 namespace {
 
-const QString widthKey = QStringLiteral("window/width");
-const QString heightKey = QStringLiteral("window/height");
 const QString panesKey = QStringLiteral("window/panes");
 const QString zoomsKey = QStringLiteral("window/zoom");
 const QString wrapKeys = QStringLiteral("wrap/");
 const QString appearanceKey = QStringLiteral("appearance");
+const QString classPaletteKey = QStringLiteral("classes/palette");
+const QString classLinesKey = QStringLiteral("classes/underlined");
+
+const QString colourBlindName = QStringLiteral("colour-blind");
 
 // In the order of AppearanceChoice.
 constexpr std::array<const char*, 3> choiceNames = {"system", "light", "dark"};
@@ -23,15 +25,37 @@ constexpr std::array<const char*, 3> choiceNames = {"system", "light", "dark"};
 
 StateStore::StateStore(const QString& path) : settings_(path, QSettings::IniFormat) {}
 
-QSize StateStore::windowSize() const {
+QSize StateStore::windowSize(const QString& window) const {
     // An INI file holds texts: what is no number reads as 0.
-    const QSize size(settings_.value(widthKey).toInt(), settings_.value(heightKey).toInt());
+    const QSize size(settings_.value(window + QLatin1String("/width")).toInt(),
+                     settings_.value(window + QLatin1String("/height")).toInt());
     return size.isEmpty() ? QSize() : size;
 }
 
-void StateStore::setWindowSize(QSize size) {
-    settings_.setValue(widthKey, size.width());
-    settings_.setValue(heightKey, size.height());
+void StateStore::setWindowSize(const QString& window, QSize size) {
+    settings_.setValue(window + QLatin1String("/width"), size.width());
+    settings_.setValue(window + QLatin1String("/height"), size.height());
+}
+
+std::optional<QPoint> StateStore::windowPlace(const QString& window) const {
+    bool hasLeft = false;
+    bool hasTop = false;
+    const int left = settings_.value(window + QLatin1String("/left")).toInt(&hasLeft);
+    const int top = settings_.value(window + QLatin1String("/top")).toInt(&hasTop);
+    return hasLeft && hasTop ? std::optional(QPoint(left, top)) : std::nullopt;
+}
+
+void StateStore::setWindowPlace(const QString& window, QPoint place) {
+    settings_.setValue(window + QLatin1String("/left"), place.x());
+    settings_.setValue(window + QLatin1String("/top"), place.y());
+}
+
+bool StateStore::windowIsMaximised(const QString& window) const {
+    return settings_.value(window + QLatin1String("/maximised")).toString() == QLatin1String("true");
+}
+
+void StateStore::setWindowIsMaximised(const QString& window, bool maximised) {
+    settings_.setValue(window + QLatin1String("/maximised"), maximised);
 }
 
 QList<int> StateStore::paneSizes() const {
@@ -80,6 +104,19 @@ AppearanceChoice StateStore::appearance() const {
     const auto* const found = std::find(choiceNames.begin(), choiceNames.end(), name);
     if (found == choiceNames.end()) return AppearanceChoice::system;
     return static_cast<AppearanceChoice>(found - choiceNames.begin());
+}
+
+ClassMarks StateStore::classMarks() const {
+    const bool isColourBlind = settings_.value(classPaletteKey).toString() == colourBlindName;
+    return {.palette = isColourBlind ? ClassPalette::colourBlind : ClassPalette::standard,
+            .underlined = settings_.value(classLinesKey).toString() == QLatin1String("true")};
+}
+
+void StateStore::setClassMarks(const ClassMarks& marks) {
+    settings_.setValue(classPaletteKey, marks.palette == ClassPalette::colourBlind
+                                            ? colourBlindName
+                                            : QStringLiteral("standard"));
+    settings_.setValue(classLinesKey, marks.underlined);
 }
 
 void StateStore::setAppearance(AppearanceChoice choice) {

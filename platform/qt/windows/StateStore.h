@@ -3,9 +3,12 @@
 #include "platform/qt/theme/Theme.h"
 
 #include <QList>
+#include <QPoint>
 #include <QSettings>
 #include <QSize>
 #include <QString>
+
+#include <optional>
 
 namespace lexiform::qt {
 
@@ -16,9 +19,15 @@ public:
     /// Keeps the state in the INI file at `path`, which is made on the first change.
     explicit StateStore(const QString& path);
 
-    /// Invalid while none is remembered.
-    [[nodiscard]] QSize windowSize() const;
-    void setWindowSize(QSize size);
+    /// The size of the windows of a name; invalid while none is remembered.
+    [[nodiscard]] QSize windowSize(const QString& window) const;
+    void setWindowSize(const QString& window, QSize size);
+    /// Where the frame of such a window began on the desktop; nothing while none is remembered.
+    [[nodiscard]] std::optional<QPoint> windowPlace(const QString& window) const;
+    void setWindowPlace(const QString& window, QPoint place);
+    /// Whether it was maximised; false while nothing else is remembered.
+    [[nodiscard]] bool windowIsMaximised(const QString& window) const;
+    void setWindowIsMaximised(const QString& window, bool maximised);
 
     /// The widths of the panes in pixels, from left to right; empty while none are remembered.
     [[nodiscard]] QList<int> paneSizes() const;
@@ -35,6 +44,9 @@ public:
 
     [[nodiscard]] AppearanceChoice appearance() const;
     void setAppearance(AppearanceChoice choice);
+
+    [[nodiscard]] ClassMarks classMarks() const;
+    void setClassMarks(const ClassMarks& marks);
 
 private:
     void setNumbers(const QString& key, const QList<int>& numbers);

@@ -1,6 +1,7 @@
 #include "platform/qt/windows/StatusLine.h"
 
-#include <QApplication>
+#include "platform/qt/theme/CaptionFont.h"
+
 #include <QLocale>
 
 namespace lexiform::qt {
@@ -17,10 +18,8 @@ StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent), label_(new QLabel(this)), edited_(new QLabel(this)) {
     setSizeGripEnabled(false);
     setMinimumHeight(lineHeight);
-    QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() - 1);
     for (QLabel* label : {label_, edited_}) {
-        label->setFont(font);
+        new CaptionFont(*label);
         label->setForegroundRole(QPalette::PlaceholderText);
     }
     label_->setContentsMargins(leadingInset, 0, 0, 0);

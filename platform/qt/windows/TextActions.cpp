@@ -8,10 +8,6 @@ namespace lexiform::qt {
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("TextActions", text);
-}
-
 QAction* makeAction(QObject* owner, Glyph glyph, const QString& title, const QString& toolTip) {
     auto* action = new QAction(lineIcon(glyph), title, owner);
     // A tool button takes its label from the icon's text: the title without its mnemonic mark.
@@ -25,12 +21,18 @@ QAction* makeAction(QObject* owner, Glyph glyph, const QString& title, const QSt
 
 TextActions makeTextActions(QObject* owner) {
     const TextActions actions{
-        .parse = makeAction(owner, Glyph::parse, tr("&Parse"), tr("Colour every word by its class")),
-        .multiParse = makeAction(owner, Glyph::multiParse, tr("&Multi-parse"),
-                                 tr("Find the script, language, class and lemma of every word")),
-        .listWords = makeAction(owner, Glyph::list, tr("&List words"),
-                                tr("List the words of each class with their counts")),
-        .saveList = makeAction(owner, Glyph::save, tr("&Save list…"), tr("Save the list of words to a file")),
+        .parse = makeAction(owner, Glyph::parse, QCoreApplication::translate("TextActions", "&Parse"),
+                            QCoreApplication::translate("TextActions", "Colour every word by its class")),
+        .multiParse =
+            makeAction(owner, Glyph::multiParse, QCoreApplication::translate("TextActions", "&Multi-parse"),
+                       QCoreApplication::translate(
+                           "TextActions", "Find the script, language, class and lemma of every word")),
+        .listWords = makeAction(
+            owner, Glyph::list, QCoreApplication::translate("TextActions", "&List words"),
+            QCoreApplication::translate("TextActions", "List the words of each class with their counts")),
+        .saveList =
+            makeAction(owner, Glyph::save, QCoreApplication::translate("TextActions", "&Save list…"),
+                       QCoreApplication::translate("TextActions", "Save the list of words to a file")),
     };
     actions.parse->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_R), QKeySequence(Qt::Key_F5)});
     actions.multiParse->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_R);

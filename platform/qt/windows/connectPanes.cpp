@@ -1,39 +1,66 @@
 #include "platform/qt/windows/connectPanes.h"
 
+#include "platform/qt/windows/wordDetailsText.h"
+
 #include <QHelpEvent>
 #include <QRegularExpression>
+#include <QTextDocument>
 #include <QToolTip>
+
+#include <utility>
 
 namespace lexiform::qt {
 
 namespace {
 
-// What the key says of the character at a position of the output.
-QString meaningAt(const DocumentPanes& panes, int position) {
-    const auto colour = panes.output()->colourAt(position);
-    return colour ? panes.key()->meaningOf(*colour) : QString();
-}
-
-/// Shows the meaning of a word's colour while the pointer rests on it.
-class MeaningTip : public QObject {
+/// Tells in words what is known of the word at a position of the output.
+class WordTeller {
 public:
-    explicit MeaningTip(DocumentPanes& panes) : QObject(&panes), panes_(panes) {
-        panes.output()->viewport()->installEventFilter(this);
+    WordTeller(const DocumentPanes& panes, WordInquiry inquire)
+        : panes_(panes), inquire_(std::move(inquire)) {}
+
+    [[nodiscard]] QString at(int position) const {
+        const auto byte = panes_.output()->byteAt(position);
+        const auto details = byte ? inquire_(*byte) : std::nullopt;
+        return details ? textOf(*details) : meaningAt(position);
+    }
+
+    /// What the key says of the character.
+    [[nodiscard]] QString meaningAt(int position) const {
+        const auto colour = panes_.output()->colourAt(position);
+        return colour ? panes_.key()->meaningOf(*colour) : QString();
+    }
+
+private:
+    const DocumentPanes& panes_;
+    WordInquiry inquire_;
+};
+
+/// Shows what is known of a word while the pointer rests on it.
+class WordTip : public QObject {
+public:
+    WordTip(DocumentPanes& panes, WordTeller teller)
+        : QObject(&panes), output_(*panes.output()), teller_(std::move(teller)) {
+        output_.viewport()->installEventFilter(this);
     }
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override {
         if (event->type() != QEvent::ToolTip) return false;
         const auto& help = static_cast<const QHelpEvent&>(*event);
-        const OutputTextEdit& output = *panes_.output();
-        const int near = output.cursorForPosition(help.pos()).position();
+        const int near = output_.cursorForPosition(help.pos()).position();
         // The nearest gap between two characters may be the one after the character pointed at.
-        const bool isAfter = output.cursorRect(output.cursorForPosition(help.pos())).left() > help.pos().x();
-        QToolTip::showText(help.globalPos(), meaningAt(panes_, isAfter ? near - 1 : near), output.viewport());
+        const bool isAfter =
+            output_.cursorRect(output_.cursorForPosition(help.pos())).left() > help.pos().x();
+        // A lemma may look like a mark-up element, which a tool tip would not show.
+        const QString plain = teller_.at(isAfter ? near - 1 : near);
+        const QString text = plain.isEmpty() ? plain : Qt::convertFromPlainText(plain);
+        QToolTip::showText(help.globalPos(), text, output_.viewport());
         return true;
     }
 
 private:
-    DocumentPanes& panes_;
+    OutputTextEdit& output_;
+    WordTeller teller_;
 };
 
 } // namespace
@@ -43,7 +70,7 @@ QString listedWord(const QString& line) {
     return listed.match(line).captured(1);
 }
 
-void connectPanes(DocumentPanes& panes, FindCommands& find) {
+void connectPanes(DocumentPanes& panes, FindCommands& find, const WordInquiry& inquire) {
     OutputTextEdit* output = panes.output();
     QObject::connect(panes.key(), &KeyTextEdit::chosen, output, &OutputTextEdit::toggleOnly);
     QObject::connect(panes.concordance(), &PaneTextEdit::lineDoubleClicked, output,
@@ -51,10 +78,13 @@ void connectPanes(DocumentPanes& panes, FindCommands& find) {
                          const QString word = listedWord(line);
                          if (!word.isEmpty()) find.findWord(word, output);
                      });
-    QObject::connect(output, &QPlainTextEdit::cursorPositionChanged, output, [&panes, output] {
-        output->setAccessibleDescription(meaningAt(panes, output->textCursor().selectionStart()));
+    const WordTeller teller(panes, inquire);
+    QObject::connect(output, &QPlainTextEdit::cursorPositionChanged, output, [teller, output] {
+        const int place = output->textCursor().selectionStart();
+        // The caret is set by each pass too: only a reader's is worth looking up words for.
+        output->setAccessibleDescription(output->hasFocus() ? teller.at(place) : teller.meaningAt(place));
     });
-    new MeaningTip(panes);
+    new WordTip(panes, teller);
 }
 
 } // namespace lexiform::qt

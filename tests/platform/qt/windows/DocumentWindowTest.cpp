@@ -180,7 +180,7 @@ TEST_F(DocumentWindowTest, fitsASmallScreen) {
 }
 
 TEST_F(DocumentWindowTest, opensWithTheSizeAndThePanesOfTheLastTime) {
-    desktop.store.setWindowSize({780, 560});
+    desktop.store.setWindowSize("window", {780, 560});
     desktop.store.setPaneSizes({210, 220, 152, 158});
     desktop.documents.newDocument();
     QApplication::processEvents();
@@ -192,7 +192,7 @@ TEST_F(DocumentWindowTest, remembersItsSizeWhenItCloses) {
     desktop.documents.newDocument();
     desktop.window().resize(777, 555);
     desktop.window().close();
-    EXPECT_EQ(desktop.store.windowSize(), QSize(777, 555));
+    EXPECT_EQ(desktop.store.windowSize("window"), QSize(777, 555));
 }
 
 TEST_F(DocumentWindowTest, remembersNoSizeOfAFullScreen) {
@@ -200,7 +200,7 @@ TEST_F(DocumentWindowTest, remembersNoSizeOfAFullScreen) {
     desktop.window().showFullScreen();
     QApplication::processEvents();
     desktop.window().close();
-    EXPECT_FALSE(desktop.store.windowSize().isValid());
+    EXPECT_FALSE(desktop.store.windowSize("window").isValid());
 }
 
 TEST_F(DocumentWindowTest, remembersThePanesWhenTheyAreArranged) {

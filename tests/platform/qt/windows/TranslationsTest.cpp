@@ -1,0 +1,142 @@
+#include "platform/qt/windows/interfaceLanguage.h"
+
+#include "platform/qt/windows/ApplicationActions.h"
+#include "tests/platform/qt/windows/DesktopUnderTest.h"
+
+#include <QDir>
+#include <QMenuBar>
+#include <QSet>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+namespace lexiform::qt {
+namespace {
+
+const QString sources = QStringLiteral(LEXIFORM_SOURCE_DIR "/resources/translations");
+
+struct Message {
+    QString source;
+    QString translation;
+    bool isFinished = true;
+};
+
+QList<Message> messagesOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QXmlStreamReader reader(&file);
+    QList<Message> messages;
+    while (!reader.atEnd()) {
+        if (!reader.readNextStartElement()) continue;
+        if (reader.name() == QLatin1String("source")) messages.append({reader.readElementText(), {}, true});
+        if (reader.name() != QLatin1String("translation")) continue;
+        messages.last().isFinished = !reader.attributes().hasAttribute("type");
+        messages.last().translation = reader.readElementText();
+    }
+    EXPECT_FALSE(reader.hasError()) << path.toStdString();
+    return messages;
+}
+
+QString placesIn(const QString& text) {
+    QString places;
+    for (const QString& place : {QStringLiteral("%1"), QStringLiteral("%2"), QStringLiteral("%3")})
+        if (text.contains(place)) places += place;
+    return places;
+}
+
+QChar mnemonicOf(const QString& title) {
+    const qsizetype mark = QString(title).replace("&&", "__").indexOf(u'&');
+    return mark < 0 ? QChar() : title.at(mark + 1).toLower();
+}
+
+void expectDistinctMnemonics(const QString& menu, const QList<QAction*>& actions) {
+    QSet<QChar> taken;
+    for (const QAction* action : actions) {
+        const QChar mnemonic = mnemonicOf(action->text());
+        if (mnemonic.isNull()) continue;
+        EXPECT_FALSE(taken.contains(mnemonic)) << (menu + u" > " + action->text()).toStdString();
+        taken.insert(mnemonic);
+    }
+}
+
+// The window of a desktop in a language, as long as the test runs.
+class Translations : public testing::TestWithParam<const char*> {
+protected:
+    ~Translations() override {
+        for (QTranslator* translator : qApp->findChildren<QTranslator*>())
+            delete translator;
+    }
+
+    DocumentWindow& openIn(const QString& locale) {
+        translateInterface(*qApp, QLocale(locale),
+                           QCoreApplication::applicationDirPath() + "/../share/lexiform/translations");
+        actions = makeApplicationActions(&owner);
+        desktop.application = &actions;
+        desktop.documents.newDocument();
+        return desktop.window();
+    }
+
+    static QStringList menusOf(const DocumentWindow& window) {
+        QStringList titles;
+        for (const QAction* menu : window.menuBar()->actions())
+            titles.append(menu->text().remove(u'&'));
+        return titles;
+    }
+
+    QObject owner;
+    ApplicationActions actions{};
+    DesktopUnderTest desktop;
+};
+
+TEST_F(Translations, putTheMenusIntoGerman) {
+    EXPECT_EQ(menusOf(openIn("de_AT")),
+              (QStringList{"Datei", "Bearbeiten", "Text", "Ansicht", "Werkzeuge", "Fenster", "Hilfe"}));
+}
+
+TEST_F(Translations, leaveTheMenusInEnglishForALanguageWithoutOne) {
+    EXPECT_EQ(menusOf(openIn("fi_FI")).first(), "File");
+}
+
+TEST_F(Translations, leaveTextsAloneThatAreFoundByTheirWords) {
+    DocumentWindow& window = openIn("de_DE");
+    EXPECT_EQ(actions.updateState->text(), "Update not checked");
+    EXPECT_EQ(window.toolBar()->typesPopUp()->itemText(3), "Types (std)");
+    window.panes()->input()->insertPlainText("The cat sat.");
+    window.textActions().parse->trigger();
+    EXPECT_TRUE(window.panes()->key()->text().starts_with("particle\n\nverb"));
+}
+
+TEST_P(Translations, areWholeForEveryText) {
+    const auto messages = messagesOf(sources + "/lexiform_" + GetParam() + ".ts");
+    ASSERT_GT(messages.size(), 150);
+    for (const Message& message : messages) {
+        EXPECT_TRUE(message.isFinished) << message.source.toStdString();
+        EXPECT_FALSE(message.translation.isEmpty()) << message.source.toStdString();
+        EXPECT_EQ(placesIn(message.translation), placesIn(message.source)) << message.source.toStdString();
+        EXPECT_EQ(message.translation.contains(u'&'), message.source.contains(u'&'))
+            << message.source.toStdString();
+    }
+}
+
+// The one that is the same everywhere is found by its words.
+TEST_P(Translations, leaveNoCommandInEnglish) {
+    QStringList english;
+    for (const Message& message : messagesOf(sources + "/lexiform_" + GetParam() + ".ts"))
+        if (message.translation != message.source) english.append(message.source);
+    DocumentWindow& window = openIn(GetParam());
+    for (const QAction* action : window.findChildren<QAction*>())
+        EXPECT_FALSE(english.contains(action->text())) << action->text().toStdString();
+}
+
+TEST_P(Translations, giveEachCommandOfAMenuALetterOfItsOwn) {
+    DocumentWindow& window = openIn(GetParam());
+    expectDistinctMnemonics("menu bar", window.menuBar()->actions());
+    for (const QMenu* menu : window.menuBar()->findChildren<QMenu*>())
+        expectDistinctMnemonics(menu->title(), menu->actions());
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Translations, testing::Values("de", "fr", "es"));
+
+} // namespace
+} // namespace lexiform::qt
