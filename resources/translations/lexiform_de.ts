@@ -545,6 +545,10 @@
         <source>Concordance</source>
         <translation>Konkordanz</translation>
     </message>
+    <message>
+        <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
+        <translation>Hier einen Text eintippen oder einfügen, oder eine Datei öffnen. Analysieren färbt dann seine Wörter.</translation>
+    </message>
 </context>
 <context>
     <name>lexiform::qt::DocumentToolBar</name>

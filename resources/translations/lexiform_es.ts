@@ -545,6 +545,10 @@
         <source>Concordance</source>
         <translation>Concordancia</translation>
     </message>
+    <message>
+        <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
+        <translation>Escriba o pegue aquí un texto, o abra un archivo. Analizar colorea después sus palabras.</translation>
+    </message>
 </context>
 <context>
     <name>lexiform::qt::DocumentToolBar</name>

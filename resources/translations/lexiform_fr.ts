@@ -545,6 +545,10 @@
         <source>Concordance</source>
         <translation>Concordance</translation>
     </message>
+    <message>
+        <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
+        <translation>Tapez ou collez un texte ici, ou ouvrez un fichier. Analyser colore ensuite ses mots.</translation>
+    </message>
 </context>
 <context>
     <name>lexiform::qt::DocumentToolBar</name>

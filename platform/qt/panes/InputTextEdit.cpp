@@ -5,7 +5,9 @@
 
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QTextBlock>
+#include <QTextLayout>
 
 namespace lexiform::qt {
 
@@ -39,6 +41,21 @@ TextBlocks withOwnLineEnds(TextBlocks blocks, LineEnd own) {
 InputTextEdit::InputTextEdit(QWidget* parent) : PaneTextEdit(parent), softBreaks_(document()) {
     setTextInteractionFlags(Qt::TextEditorInteraction);
     setTabChangesFocus(false);
+}
+
+void InputTextEdit::setHint(const QString& hint) {
+    hint_ = hint;
+    viewport()->update();
+}
+
+// The placeholder that the editor has of its own stands outside the margins of a pane's text.
+void InputTextEdit::paintEvent(QPaintEvent* event) {
+    PaneTextEdit::paintEvent(event);
+    const QTextBlock first = document()->firstBlock();
+    if (!document()->isEmpty() || !first.layout()->preeditAreaText().isEmpty()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().marginsRemoved(textMargins), Qt::TextWordWrap, hint_);
 }
 
 void InputTextEdit::keyPressEvent(QKeyEvent* event) {

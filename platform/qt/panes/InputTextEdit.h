@@ -13,7 +13,11 @@ class InputTextEdit : public PaneTextEdit {
 public:
     explicit InputTextEdit(QWidget* parent = nullptr);
 
+    /// What the empty pane says may be done with it.
+    void setHint(const QString& hint);
+
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
@@ -23,6 +27,7 @@ private:
     void stepOverSoftBreak(const QKeyEvent& event);
 
     SoftBreakKeeper softBreaks_;
+    QString hint_;
 };
 
 } // namespace lexiform::qt

@@ -18,6 +18,7 @@ DocumentPanes::DocumentPanes(QWidget* parent)
     addPane(new PaneFrame(tr("Output"), output_), textMinimum, 1);
     addPane(new PaneFrame(tr("Key"), key_), listMinimum, 0);
     addPane(new PaneFrame(tr("Concordance"), concordance_), listMinimum, 0);
+    input_->setHint(tr("Type or paste a text here, or open a file. Parse then colours its words."));
     input_->document()->clearUndoRedoStacks(); // setting a pane up is no edit of anybody's
 }
 

@@ -151,4 +151,15 @@ TEST(Cutting, takesTheTextWithItsEndsAndPastingBringsItBackWithTheTextsOwn) {
     EXPECT_EQ(editor.text(), "a\nb\nc\nd");
 }
 
+TEST(InputHint, isPaintedInTheEmptyPaneAlone) {
+    InputTextEdit pane;
+    pane.resize(300, 200);
+    const QImage without = pane.grab().toImage();
+    pane.setHint("Type here");
+    EXPECT_NE(pane.grab().toImage(), without);
+    EXPECT_EQ(pane.text(), "");
+    pane.replaceText(AttributedText(" ", Colour::text));
+    EXPECT_EQ(pane.grab().toImage(), without);
+}
+
 } // namespace lexiform::qt

@@ -21,6 +21,13 @@ protected:
         return accessible ? accessible->text(QAccessible::Name) : QString();
     }
 
+    // In the input a tab belongs to the text, and Ctrl moves on.
+    void step(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QWidget* const at = QApplication::focusWidget();
+        if (at == window.panes()->input()) modifiers |= Qt::ControlModifier;
+        QTest::keyClick(at, key, modifiers);
+    }
+
     // The names of all that has the keyboard, one after the other, until it comes back to the first.
     QStringList walk(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         constexpr qsizetype enough = 30;
@@ -28,7 +35,7 @@ protected:
         QWidget* const first = QApplication::focusWidget();
         do {
             names.append(nameOf(QApplication::focusWidget()));
-            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+            step(key, modifiers);
         } while (QApplication::focusWidget() != first && names.size() < enough);
         return names;
     }
