@@ -873,7 +873,7 @@
     <name>missingDisplay</name>
     <message>
         <source>There is no display to show windows on. In a terminal, lexiform-cli reads texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Bildschirm für Fenster. Im Terminal liest lexiform-cli Texte.</translation>
     </message>
 </context>
 <context>

@@ -873,7 +873,7 @@
     <name>missingDisplay</name>
     <message>
         <source>There is no display to show windows on. In a terminal, lexiform-cli reads texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay pantalla donde mostrar ventanas. En un terminal, lexiform-cli lee los textos.</translation>
     </message>
 </context>
 <context>

@@ -873,7 +873,7 @@
     <name>missingDisplay</name>
     <message>
         <source>There is no display to show windows on. In a terminal, lexiform-cli reads texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun écran où montrer des fenêtres. Dans un terminal, lexiform-cli lit les textes.</translation>
     </message>
 </context>
 <context>
