@@ -549,6 +549,14 @@
         <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
         <translation>Hier einen Text eintippen oder einfügen, oder eine Datei öffnen. Analysieren färbt dann seine Wörter.</translation>
     </message>
+    <message>
+        <source>Click a line to see its words alone, and once more to see all</source>
+        <translation>Auf eine Zeile klicken, um nur ihre Wörter zu sehen, und noch einmal für alle</translation>
+    </message>
+    <message>
+        <source>Click a word twice to find it in the output</source>
+        <translation>Ein Wort doppelt anklicken, um es in der Ausgabe zu finden</translation>
+    </message>
 </context>
 <context>
     <name>lexiform::qt::DocumentToolBar</name>

@@ -549,6 +549,14 @@
         <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
         <translation>Escriba o pegue aquí un texto, o abra un archivo. Analizar colorea después sus palabras.</translation>
     </message>
+    <message>
+        <source>Click a line to see its words alone, and once more to see all</source>
+        <translation>Pulse una línea para ver solo sus palabras, y otra vez para verlas todas</translation>
+    </message>
+    <message>
+        <source>Click a word twice to find it in the output</source>
+        <translation>Pulse dos veces una palabra para encontrarla en la salida</translation>
+    </message>
 </context>
 <context>
     <name>lexiform::qt::DocumentToolBar</name>

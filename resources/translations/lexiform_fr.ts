@@ -549,6 +549,14 @@
         <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
         <translation>Tapez ou collez un texte ici, ou ouvrez un fichier. Analyser colore ensuite ses mots.</translation>
     </message>
+    <message>
+        <source>Click a line to see its words alone, and once more to see all</source>
+        <translation>Cliquez sur une ligne pour ne voir que ses mots, et encore une fois pour les voir tous</translation>
+    </message>
+    <message>
+        <source>Click a word twice to find it in the output</source>
+        <translation>Cliquez deux fois sur un mot pour le trouver dans la sortie</translation>
+    </message>
 </context>
 <context>
     <name>lexiform::qt::DocumentToolBar</name>

@@ -19,6 +19,8 @@ DocumentPanes::DocumentPanes(QWidget* parent)
     addPane(new PaneFrame(tr("Key"), key_), listMinimum, 0);
     addPane(new PaneFrame(tr("Concordance"), concordance_), listMinimum, 0);
     input_->setHint(tr("Type or paste a text here, or open a file. Parse then colours its words."));
+    key_->setToolTip(tr("Click a line to see its words alone, and once more to see all"));
+    concordance_->setToolTip(tr("Click a word twice to find it in the output"));
     input_->document()->clearUndoRedoStacks(); // setting a pane up is no edit of anybody's
 }
 
