@@ -17,9 +17,10 @@ const WordDetails boat{.type = "Noun", .lemma = "boat", .language = "en", .scrip
 const WordDetails lie{.type = "Verb", .lemma = "lie", .language = "en", .script = "Latn"};
 
 struct BoatsUnderTest : WindowUnderTest {
-    BoatsUnderTest() : WindowUnderTest(textOf(boats), tableTaggers(boats, calls)) {}
+    explicit BoatsUnderTest(const std::shared_ptr<TableCalls>& noted = std::make_shared<TableCalls>())
+        : WindowUnderTest(textOf(boats), tableTaggers(boats, noted)), calls(noted) {}
 
-    std::shared_ptr<TableCalls> calls = std::make_shared<TableCalls>();
+    std::shared_ptr<TableCalls> calls;
 };
 
 TEST(ShownWord, isLookedUpAfterTheLexicalPass) {

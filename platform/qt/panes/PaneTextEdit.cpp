@@ -107,10 +107,14 @@ void PaneTextEdit::prepareReplacement(const AttributedText& /*text*/, const Text
 
 void PaneTextEdit::prepareAddition(const AttributedText& /*text*/, const TextBlocks& /*blocks*/) {}
 
+bool PaneTextEdit::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationFontChange) setZoom(zoom_);
+    return QPlainTextEdit::event(event);
+}
+
 void PaneTextEdit::changeEvent(QEvent* event) {
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange && layout_ != nullptr) takeSpacingFromFont();
-    if (event->type() == QEvent::ApplicationFontChange) setZoom(zoom_);
 }
 
 void PaneTextEdit::takeSpacingFromFont() {

@@ -65,6 +65,7 @@ protected:
     /// Called when `text` is about to be added; its first block goes on in the document's last.
     virtual void prepareAddition(const AttributedText& text, const TextBlocks& blocks);
 
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

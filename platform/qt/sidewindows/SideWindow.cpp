@@ -3,6 +3,7 @@
 #include "platform/qt/adapters/QtView.h"
 #include "platform/qt/adapters/QtWindow.h"
 #include "platform/qt/adapters/QtWindowController.h"
+#include "platform/qt/windows/FontRelay.h"
 #include "platform/qt/windows/ScreenAppearance.h"
 
 #include <QShortcut>
@@ -23,6 +24,7 @@ SideWindow::SideWindow(const QString& title, QWidget* content, int margin, const
     auto* close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
     connect(close, &QShortcut::activated, this, &QWidget::close);
     services.windows.add(this);
+    new FontRelay(*this);
 }
 
 // A window title marks the place of an asterisk with "[*]", which a file name may hold.

@@ -2,6 +2,7 @@
 
 #include "platform/qt/windows/DocumentMenuBar.h"
 #include "platform/qt/windows/FileDropTarget.h"
+#include "platform/qt/windows/FontRelay.h"
 #include "platform/qt/windows/RememberedPlace.h"
 #include "platform/qt/windows/ScreenAppearance.h"
 #include "platform/qt/windows/WaitCursor.h"
@@ -34,8 +35,9 @@ DocumentWindow::DocumentWindow(std::shared_ptr<ViewController> controller, const
     buildBars(services);
     setCentralWidget(makeContent());
     connectCommands();
-    panes_->arrange(store_.paneSizes());
     new RememberedPlace(*this, QStringLiteral("window"), defaultSize, services);
+    new FontRelay(*this);
+    panes_->arrange(store_.paneSizes());
     followClassMarks(services.theme, *this, [this](const ClassMarks& marks) {
         panes_->output()->setClassMarks(marks);
         panes_->key()->setClassMarks(marks);

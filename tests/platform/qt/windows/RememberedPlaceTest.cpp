@@ -34,6 +34,7 @@ class RememberedPlaceTest : public testing::Test {
 protected:
     DocumentWindow& newWindow() {
         desktop.documents.newDocument();
+        QApplication::processEvents();
         return desktop.window(desktop.documents.documents().size() - 1);
     }
 
