@@ -1,7 +1,5 @@
 #include "platform/qt/sidewindows/ColourSwatch.h"
 
-#include "platform/qt/theme/Appearance.h"
-
 #include <QPainter>
 
 namespace lexiform::qt {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Colour.h"
+#include "platform/qt/theme/Appearance.h"
 
 #include <QWidget>
 
