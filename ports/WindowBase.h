@@ -3,6 +3,7 @@
 #include "ports/Window.h"
 
 #include <cstdint>
+#include <initializer_list>
 
 namespace lexiform {
 
@@ -25,8 +26,12 @@ enum class StyleMask : std::uint8_t {
     resizable = 8
 };
 
-[[nodiscard]] constexpr StyleMask operator|(StyleMask a, StyleMask b) {
-    return static_cast<StyleMask>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
+/// All of the parts at once. Not an operator, which would hide the toolkit's from every file here.
+[[nodiscard]] constexpr StyleMask styleOf(std::initializer_list<StyleMask> parts) {
+    unsigned bits = 0;
+    for (const StyleMask part : parts)
+        bits |= static_cast<unsigned>(part);
+    return static_cast<StyleMask>(bits);
 }
 
 /// How a window's picture is kept.

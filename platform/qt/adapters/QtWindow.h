@@ -17,9 +17,10 @@ public:
     /// `title` gives the title that the window shows, whenever it is asked for; `retitle` changes it, and
     /// where it is absent the title stays. The widget lays the window out: nothing is said of its place.
     explicit QtWindow(std::function<QString()> title, std::function<void(const QString&)> retitle = {})
-        : LXFWindow(
-              {}, StyleMask::titled | StyleMask::closable | StyleMask::miniaturisable | StyleMask::resizable,
-              BackingStore::buffered, true),
+        : LXFWindow({},
+                    styleOf({StyleMask::titled, StyleMask::closable, StyleMask::miniaturisable,
+                             StyleMask::resizable}),
+                    BackingStore::buffered, true),
           title_(std::move(title)), retitle_(std::move(retitle)) {}
 
     [[nodiscard]] std::string title() const override { return title_().toStdString(); }

@@ -69,7 +69,7 @@ public:
 };
 
 TEST(LXFWindow, passesOnWhatItIsMadeWith) {
-    const StyleMask style = StyleMask::titled | StyleMask::resizable;
+    const StyleMask style = styleOf({StyleMask::titled, StyleMask::resizable});
     const HiddenWindow window({10, 20, 300, 400}, style, BackingStore::nonretained, true);
     EXPECT_EQ(window.contentRect(), (ContentRect{10, 20, 300, 400}));
     EXPECT_EQ(window.styleMask(), style);
