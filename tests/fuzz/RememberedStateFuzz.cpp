@@ -44,8 +44,12 @@ void readFiles(const QString& path) {
 
 void readState(const QString& path) {
     qt::StateStore store(path);
-    const QSize size = store.windowSize();
+    const QString window = QStringLiteral("window");
+    const QSize size = store.windowSize(window);
     require(!size.isValid() || !size.isEmpty(), "a window has no size");
+    (void)store.windowPlace(window);
+    (void)store.windowIsMaximised(window);
+    (void)store.classMarks();
     const QList<int> panes = store.paneSizes();
     require(std::all_of(panes.begin(), panes.end(), [](int pane) { return pane > 0; }), "a pane has no size");
     (void)store.paneZooms();

@@ -41,7 +41,7 @@ void ClassLinePainter::paintWord(const QTextBlock& block, qreal top, int from, i
         const int last = std::min(to, row.textStart() + row.textLength());
         if (first >= last) continue;
         const qreal base = top + row.y() + row.ascent();
-        const auto [left, right] = std::minmax(row.cursorToX(first), row.cursorToX(last));
+        const auto [left, right] = std::minmax({row.cursorToX(first), row.cursorToX(last)});
         paintClassLine(painter_, line, {left, base, right, base}, textSize_, ink);
     }
 }

@@ -39,6 +39,7 @@ QPoint freePlace(QPoint wanted, const WindowList& windows) {
 } // namespace
 
 QRect broughtOnScreen(QRect frame, const QList<QRect>& screens) {
+    if (screens.isEmpty()) return frame;
     const auto shows = [&](const QRect& screen) { return areaOf(screen & frame); };
     const QRect screen = *std::max_element(
         screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) { return shows(a) < shows(b); });

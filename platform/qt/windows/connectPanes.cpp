@@ -81,8 +81,9 @@ void connectPanes(DocumentPanes& panes, FindCommands& find, const WordInquiry& i
     const WordTeller teller(panes, inquire);
     QObject::connect(output, &QPlainTextEdit::cursorPositionChanged, output, [teller, output] {
         const int place = output->textCursor().selectionStart();
-        // The caret is set by each pass too: only a reader's is worth looking up words for.
-        output->setAccessibleDescription(output->hasFocus() ? teller.at(place) : teller.meaningAt(place));
+        // Each pass sets the caret to the top: only where a reader has moved it is it worth a look-up.
+        const bool isMoved = output->hasFocus() && place > 0;
+        output->setAccessibleDescription(isMoved ? teller.at(place) : teller.meaningAt(place));
     });
     new WordTip(panes, teller);
 }

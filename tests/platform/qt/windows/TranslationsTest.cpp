@@ -55,7 +55,7 @@ void expectDistinctMnemonics(const QString& menu, const QList<QAction*>& actions
     for (const QAction* action : actions) {
         const QChar mnemonic = mnemonicOf(action->text());
         if (mnemonic.isNull()) continue;
-        EXPECT_FALSE(taken.contains(mnemonic)) << (menu + u" > " + action->text()).toStdString();
+        EXPECT_FALSE(taken.contains(mnemonic)) << (menu + QStringLiteral(" > ") + action->text()).toStdString();
         taken.insert(mnemonic);
     }
 }

@@ -45,7 +45,7 @@ inline double luminance(const Light& light) {
 
 /// The contrast of two colours as WCAG 2 counts it, from 1 to 21.
 inline double contrast(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax(luminance(lightOf(a)), luminance(lightOf(b)));
+    const auto [darker, lighter] = std::minmax({luminance(lightOf(a)), luminance(lightOf(b))});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
