@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation>&amp;Sombre</translation>
+        <translation>S&amp;ombre</translation>
     </message>
 </context>
 <context>

@@ -28,7 +28,7 @@ bool isUnderlined(QPlainTextEdit& pane, int from, int to) {
     const int base = first.top() + QFontMetrics(pane.font()).ascent();
     const QRgb surface = image.pixel(2, 2);
     for (int y = base + 3; y <= base + 6; ++y)
-        for (int x = first.left() + 1; x < right; ++x)
+        for (int x = first.left() + 2; x < right - 1; ++x) // the ends of lines are softened
             if (image.pixel(x, y) != surface) return true;
     return false;
 }

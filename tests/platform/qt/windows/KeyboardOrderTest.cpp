@@ -65,8 +65,9 @@ TEST_F(KeyboardOrder, takesInThePopUpOnceItCanBeUsed) {
 TEST_F(KeyboardOrder, takesInTheFindBarAfterThePanes) {
     window.findBar()->open("Input", {});
     window.panes()->input()->setFocus();
-    const QStringList bar{"Find in Input", "Previous",           "Next", "Match case",
-                          "Whole word",    "Regular expression", "Close"};
+    // The bar searches the pane that had the keyboard last.
+    const QStringList bar{"Find in Concordance", "Previous",           "Next", "Match case",
+                          "Whole word",          "Regular expression", "Close"};
     EXPECT_EQ(walk(Qt::Key_Tab), panes + bar + tools);
 }
 

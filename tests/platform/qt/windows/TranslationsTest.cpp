@@ -28,13 +28,14 @@ QList<Message> messagesOf(const QString& path) {
     QXmlStreamReader reader(&file);
     QList<Message> messages;
     while (!reader.atEnd()) {
-        if (!reader.readNextStartElement()) continue;
+        if (reader.readNext() != QXmlStreamReader::StartElement) continue;
         if (reader.name() == QLatin1String("source")) messages.append({reader.readElementText(), {}, true});
         if (reader.name() != QLatin1String("translation")) continue;
         messages.last().isFinished = !reader.attributes().hasAttribute("type");
-        messages.last().translation = reader.readElementText();
+        // A message that counts has one text for each number.
+        messages.last().translation = reader.readElementText(QXmlStreamReader::IncludeChildElements);
     }
-    EXPECT_FALSE(reader.hasError()) << path.toStdString();
+    EXPECT_FALSE(reader.hasError()) << path.toStdString() << ": " << reader.errorString().toStdString();
     return messages;
 }
 
@@ -55,7 +56,8 @@ void expectDistinctMnemonics(const QString& menu, const QList<QAction*>& actions
     for (const QAction* action : actions) {
         const QChar mnemonic = mnemonicOf(action->text());
         if (mnemonic.isNull()) continue;
-        EXPECT_FALSE(taken.contains(mnemonic)) << (menu + QStringLiteral(" > ") + action->text()).toStdString();
+        EXPECT_FALSE(taken.contains(mnemonic))
+            << (menu + QStringLiteral(" > ") + action->text()).toStdString();
         taken.insert(mnemonic);
     }
 }
