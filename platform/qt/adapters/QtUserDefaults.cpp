@@ -1,5 +1,7 @@
 #include "platform/qt/adapters/QtUserDefaults.h"
 
+#include "platform/qt/adapters/fileOfPlainValues.h"
+
 namespace lexiform::qt {
 
 namespace {
@@ -10,7 +12,8 @@ QString fromUtf8(std::string_view text) {
 
 } // namespace
 
-QtUserDefaults::QtUserDefaults(const QString& path) : settings_(path, QSettings::IniFormat) {}
+QtUserDefaults::QtUserDefaults(const QString& path)
+    : settings_(fileOfPlainValues(path), QSettings::IniFormat) {}
 
 std::optional<std::string> QtUserDefaults::stringForKey(std::string_view key) const {
     const QVariant value = read(key);

@@ -1,5 +1,7 @@
 #include "platform/qt/documents/RememberedFiles.h"
 
+#include "platform/qt/adapters/fileOfPlainValues.h"
+
 #include <QFileInfo>
 
 namespace lexiform::qt {
@@ -12,7 +14,7 @@ const QString reopensKey = QStringLiteral("files/reopen");
 
 } // namespace
 
-RememberedFiles::RememberedFiles(const QString& path) : settings_(path, QSettings::IniFormat) {}
+RememberedFiles::RememberedFiles(const QString& path) : settings_(fileOfPlainValues(path), QSettings::IniFormat) {}
 
 QStringList RememberedFiles::recent() const {
     return existing(recentKey).mid(0, mostRecent); // other programs can write the file too

@@ -1,5 +1,7 @@
 #include "platform/qt/windows/StateStore.h"
 
+#include "platform/qt/adapters/fileOfPlainValues.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -23,7 +25,7 @@ constexpr std::array<const char*, 3> choiceNames = {"system", "light", "dark"};
 
 } // namespace
 
-StateStore::StateStore(const QString& path) : settings_(path, QSettings::IniFormat) {}
+StateStore::StateStore(const QString& path) : settings_(fileOfPlainValues(path), QSettings::IniFormat) {}
 
 QSize StateStore::windowSize(const QString& window) const {
     // An INI file holds texts: what is no number reads as 0.
