@@ -14,7 +14,8 @@ const QString reopensKey = QStringLiteral("files/reopen");
 
 } // namespace
 
-RememberedFiles::RememberedFiles(const QString& path) : settings_(fileOfPlainValues(path), QSettings::IniFormat) {}
+RememberedFiles::RememberedFiles(const QString& path)
+    : settings_(fileOfPlainValues(path), QSettings::IniFormat) {}
 
 QStringList RememberedFiles::recent() const {
     return existing(recentKey).mid(0, mostRecent); // other programs can write the file too
