@@ -2,6 +2,7 @@
 
 #include <QPen>
 #include <QPolygonF>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -48,9 +49,9 @@ QPen penOf(const ClassLine& line, qreal unit, const QColor& ink) {
 
 QPolygonF waveAlong(const QLineF& line, qreal height) {
     QPolygonF wave;
-    bool isUp = false;
-    for (qreal x = line.x1(); x < line.x2(); x += height, isUp = !isUp)
-        wave.append({x, line.y1() + (isUp ? height : 0)});
+    const int steps = qCeil(line.dx() / height);
+    for (int i = 0; i < steps; ++i)
+        wave.append({line.x1() + i * height, line.y1() + (i % 2 == 0 ? 0 : height)});
     return wave;
 }
 
