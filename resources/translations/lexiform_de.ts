@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>DocumentSaver</name>
+    <message>
+        <source>Its window shows nothing that can be saved (%1 %2).</source>
+        <translation>Ihr Fenster zeigt nichts, was sich sichern lässt (%1 %2).</translation>
+    </message>
+    <message>
+        <source>A file of that name is open in another window. Close that window first, or take another name.</source>
+        <translation>Eine Datei dieses Namens ist in einem anderen Fenster offen. Schließen Sie zuerst jenes Fenster oder nehmen Sie einen anderen Namen.</translation>
+    </message>
+</context>
+<context>
     <name>FileType</name>
     <message>
         <source>Plain text (*.txt)</source>

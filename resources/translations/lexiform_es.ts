@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>DocumentSaver</name>
+    <message>
+        <source>Its window shows nothing that can be saved (%1 %2).</source>
+        <translation>Su ventana no muestra nada que se pueda guardar (%1 %2).</translation>
+    </message>
+    <message>
+        <source>A file of that name is open in another window. Close that window first, or take another name.</source>
+        <translation>Un archivo con ese nombre está abierto en otra ventana. Cierre antes esa ventana o elija otro nombre.</translation>
+    </message>
+</context>
+<context>
     <name>FileType</name>
     <message>
         <source>Plain text (*.txt)</source>

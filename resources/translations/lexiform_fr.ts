@@ -96,6 +96,17 @@
     </message>
 </context>
 <context>
+    <name>DocumentSaver</name>
+    <message>
+        <source>Its window shows nothing that can be saved (%1 %2).</source>
+        <translation>Sa fenêtre ne montre rien qui puisse être enregistré (%1 %2).</translation>
+    </message>
+    <message>
+        <source>A file of that name is open in another window. Close that window first, or take another name.</source>
+        <translation>Un fichier de ce nom est ouvert dans une autre fenêtre. Fermez d’abord cette fenêtre ou prenez un autre nom.</translation>
+    </message>
+</context>
+<context>
     <name>FileType</name>
     <message>
         <source>Plain text (*.txt)</source>

@@ -13,12 +13,8 @@ namespace lexiform::qt {
 
 namespace {
 
-QString saverText(const char* text) {
-    return QCoreApplication::translate("DocumentSaver", text);
-}
-
 QString reasonOf(const DocumentError& error) {
-    return saverText("Its window shows nothing that can be saved (%1 %2).")
+    return QCoreApplication::translate("DocumentSaver", "Its window shows nothing that can be saved (%1 %2).")
         .arg(QString::fromStdString(error.domain))
         .arg(error.code);
 }
@@ -66,7 +62,8 @@ bool DocumentSaver::saveThere(OpenedDocument& document) {
     if (!isOpenElsewhere_(document, target->path)) return write(document, *target);
     questions_.tellNotSaved(
         window, QFileInfo(target->path).fileName(),
-        saverText(
+        QCoreApplication::translate(
+            "DocumentSaver",
             "A file of that name is open in another window. Close that window first, or take another name."));
     return false;
 }
