@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's allocator; GCC brings no header for it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #else
 #include <malloc.h>
 #endif
