@@ -96,12 +96,22 @@ void appendSpecial(char32_t codePoint, std::string& rtf) {
     }
 }
 
+/// Every second space in a row goes by its number: some word processors make thin spaces of plain ones.
+void appendPlain(std::string_view text, std::string& rtf) {
+    for (std::size_t pair = text.find("  "); pair != std::string_view::npos; pair = text.find("  ")) {
+        rtf.append(text.substr(0, pair + 1));
+        appendEscaped(' ', rtf);
+        text.remove_prefix(pair + 2);
+    }
+    rtf.append(text);
+}
+
 void appendText(std::string_view text, std::string& rtf) {
     std::size_t at = 0;
     while (at < text.size()) {
         const auto* const plainEnd = std::find_if_not(text.begin() + at, text.end(), isPlain);
         const auto end = static_cast<std::size_t>(plainEnd - text.begin());
-        rtf.append(text, at, end - at);
+        appendPlain(text.substr(at, end - at), rtf);
         at = end;
         if (text.substr(at).starts_with("\r\n")) {
             appendMarkedEnd(U"\r\n", "\\par", rtf);

@@ -55,6 +55,10 @@ TEST(RtfWriter, escapesWhatIsNoPlainCharacter) {
     EXPECT_EQ(bodyOf("😀"), "\\u-10179?\\u-8704?");
 }
 
+TEST(RtfWriter, writesEverySecondSpaceInARowByItsNumber) {
+    EXPECT_EQ(bodyOf("a b  c   d    e "), "a b \\u32?c \\u32? d \\u32? \\u32?e ");
+}
+
 TEST(RtfWriter, marksTheLineEndsThatRtfHasNoWordFor) {
     EXPECT_EQ(bodyOf("a\r\nb"), "a{\\*\\lxeol13}{\\*\\lxeol10}\\par\nb");
     EXPECT_EQ(bodyOf("a\rb"), "a{\\*\\lxeol13}\\par\nb");
