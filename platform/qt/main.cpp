@@ -14,10 +14,12 @@
 #include "platform/qt/makerAddresses.h"
 #include "platform/qt/shell/QtBundle.h"
 #include "platform/qt/shell/Shell.h"
+#include "platform/qt/shell/makeApplication.h"
 #include "platform/qt/shell/missingDisplay.h"
 #include "platform/qt/sidewindows/sideScenes.h"
 #include "platform/qt/theme/ApplicationIcon.h"
 #include "platform/qt/theme/Theme.h"
+#include "platform/qt/theme/pixmapCache.h"
 #include "platform/qt/windows/StateStore.h"
 #include "platform/qt/windows/documentScene.h"
 #include "platform/qt/windows/interfaceLanguage.h"
@@ -92,6 +94,7 @@ void addScenes(qt::SceneStoryboard& storyboard, const TaggerFactory& taggers,
 int run(QApplication& application, const QStringList& files) {
     QApplication::setDesktopFileName(QStringLiteral("lexiform"));
     QApplication::setWindowIcon(qt::applicationIcon());
+    qt::limitPixmapCache();
 
     qt::StateStore store(configFile(QStringLiteral("state.ini")));
     qt::Theme theme(application, store.appearance());
@@ -144,7 +147,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "lexiform: %s\n", qPrintable(*fault));
         return EXIT_FAILURE;
     }
-    QApplication application(argc, argv);
-    translate(application);
-    return run(application, qt::filesToOpen(QCoreApplication::arguments()));
+    const auto application = qt::makeApplication(argc, argv);
+    translate(*application);
+    return run(*application, qt::filesToOpen(QCoreApplication::arguments()));
 }

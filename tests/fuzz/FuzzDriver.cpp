@@ -1,13 +1,18 @@
-// Runs a fuzz target without a fuzzing engine: seeded random texts and mutations of them, for as many
-// seconds as the first argument says. The second argument, if any, is the seed.
+// Runs a fuzz target without a fuzzing engine: first every file of the folders that are its third and later
+// arguments, then, for as many seconds as the first argument says, seeded random texts and mutations of these
+// and of the files. The second argument, if any, is the seed.
 //
 // A target that has a language of its own defines `fuzzPieces`, of which its texts are made.
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
@@ -145,19 +150,51 @@ void run(const std::string& text) {
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(text.data()), text.size());
 }
 
+// In the order of their names, so that a seed gives the same run everywhere.
+std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+        if (entry.is_regular_file()) files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        std::fprintf(stderr, "cannot read %s\n", path.c_str());
+        std::exit(EXIT_FAILURE);
+    }
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> contentsOf(int count, char** folders) {
+    std::vector<std::string> contents;
+    for (int i = 0; i < count; ++i)
+        for (const auto& path : filesIn(folders[i]))
+            contents.push_back(contentOf(path));
+    return contents;
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
     const int seconds = count > 1 ? std::atoi(arguments[1]) : 5;
     Generator random(count > 2 ? std::strtoull(arguments[2], nullptr, 10) : 1);
+    const std::vector<std::string> seeds = contentsOf(count - 3, arguments + 3);
+    for (const std::string& seed : seeds)
+        run(seed);
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
-    std::size_t texts = 0;
+    std::size_t texts = seeds.size();
     while (std::chrono::steady_clock::now() < end) {
         const std::string text = randomText(random);
         run(text);
         run(mutated(text, random));
         texts += 2;
+        if (seeds.empty()) continue;
+        run(mutated(seeds[below(random, seeds.size())], random));
+        ++texts;
     }
-    std::printf("%zu texts held the contract\n", texts);
+    std::printf("%zu texts held the contract, %zu of them files\n", texts, seeds.size());
     return 0;
 }

@@ -8,9 +8,8 @@ an offer opens the download, which an `xdg-open` of the test's own writes down.
 """
 
 import http.server
+import contextlib
 import os
-import re
-import shutil
 import ssl
 import subprocess
 import sys
@@ -18,7 +17,9 @@ import tempfile
 import threading
 import time
 
-SECONDS_TO_OPEN = 60
+from own_screen import (SECONDS_TO_OPEN, give_keyboard_to, run_on_own_screen, running, soon, windows_titled,
+                        xdotool)
+
 SECONDS_OF_SILENCE = 2.5
 SLOW_ANSWER = 4
 DOWNLOAD = "https://localhost/get/lexiform.tar"
@@ -106,70 +107,36 @@ def serve(certificate, key):
     return server
 
 
-def windows_titled(title):
-    """The windows on screen with exactly this title; programs have others that are never shown."""
-    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{re.escape(title)}$"],
-                          capture_output=True, text=True, check=False).stdout.split()
-
-
 def is_shown(title):
     return bool(windows_titled(title))
 
 
-def wait_for(condition, seconds):
-    deadline = time.monotonic() + seconds
-    while time.monotonic() < deadline:
-        if condition():
-            return True
-        time.sleep(0.1)
-    return False
-
-
 def press(*keys):
-    # There is no window manager that would give the box the keyboard.
-    subprocess.run(["xdotool", "windowfocus", windows_titled("Lexiform")[-1]], check=True, capture_output=True)
+    give_keyboard_to(windows_titled("Lexiform")[-1])
     time.sleep(0.3)
-    subprocess.run(["xdotool", "key", *keys], check=True, capture_output=True)
+    xdotool("key", *keys)
 
 
 def alerts_of(server, first_wait):
     """How many alerts come one after the other; each is answered with its first button."""
     count = 0
-    while wait_for(lambda: is_shown("Lexiform"), first_wait if count == 0 else SECONDS_OF_SILENCE):
+    while soon(lambda: is_shown("Lexiform"), first_wait if count == 0 else SECONDS_OF_SILENCE):
         count += 1
         press("Return")
         time.sleep(0.5)
     return count
 
 
-class Program:
-    """The running program with preferences of its own."""
-
-    def __init__(self, path, models, manifest, authority, tools):
-        self.home = tempfile.TemporaryDirectory()
-        environment = dict(os.environ, HOME=self.home.name, XDG_CONFIG_HOME=self.home.name,
-                           XDG_RUNTIME_DIR=self.home.name, LEXIFORM_MODELS=models, QT_QPA_PLATFORM="xcb",
-                           LEXIFORM_TEST_MANIFEST=manifest, LEXIFORM_TEST_AUTHORITY=authority,
-                           OPENED=os.path.join(self.home.name, "opened"), no_proxy="localhost",
-                           PATH=tools + ":" + os.environ["PATH"])
-        self.process = subprocess.Popen([path], env=environment)
-
-    def __enter__(self):
-        if not wait_for(lambda: is_shown("Untitled") or is_shown("Lexiform"), SECONDS_TO_OPEN):
-            sys.exit("no window")
-        return self
-
-    def opened(self):
-        path = os.path.join(self.home.name, "opened")
-        return open(path, encoding="utf-8").read().split() if os.path.exists(path) else []
-
-    def __exit__(self, *_):
-        ended = self.process.poll()
-        self.process.terminate()
-        self.process.wait()
-        self.home.cleanup()
-        if ended is not None:
-            sys.exit(f"the program ended by itself with {ended}")
+@contextlib.contextmanager
+def asking(path, models, manifest, authority, tools):
+    """The program with its first window or alert on screen, and the addresses that it has opened."""
+    with tempfile.TemporaryDirectory() as folder:
+        opened = os.path.join(folder, "opened")
+        open(opened, "w", encoding="utf-8").close()
+        with running([path], models, LEXIFORM_TEST_MANIFEST=manifest, LEXIFORM_TEST_AUTHORITY=authority, OPENED=opened,
+                     no_proxy="localhost", PATH=tools + ":" + os.environ["PATH"]) as program:
+            program.wait_for(lambda: is_shown("Untitled") or is_shown("Lexiform"), "window")
+            yield lambda: open(opened, encoding="utf-8").read().split()
 
 
 def expect(name, wanted, found):
@@ -184,22 +151,22 @@ def check_answers(path, models, server, authority, tools):
     for name, (answer, wanted) in CASES.items():
         server.answer = answer(version) if callable(answer) else answer
         server.asked = 0
-        with Program(path, models, manifest, authority, tools) as program:
+        with asking(path, models, manifest, authority, tools) as opened:
             if server.answer.delay:
                 expect("the window is there before a slow answer", True, is_shown("Untitled"))
             expect(name, wanted, alerts_of(server, SECONDS_OF_SILENCE + 2 * server.answer.delay))
-            expect("  opened", [], program.opened())
+            expect("  opened", [], opened())
         expect("  asked", True, server.asked >= 1)
 
 
 def check_download(path, models, server, authority, tools):
     server.answer = Answer(NEWER)
     manifest = f"https://localhost:{server.server_port}/versions.plist"
-    with Program(path, models, manifest, authority, tools) as program:
-        expect("an offer", True, wait_for(lambda: is_shown("Lexiform"), SECONDS_TO_OPEN))
+    with asking(path, models, manifest, authority, tools) as opened:
+        expect("an offer", True, soon(lambda: is_shown("Lexiform"), SECONDS_TO_OPEN))
         press("Tab", "space")
-        wait_for(program.opened, SECONDS_OF_SILENCE)
-        expect("the second button opens", [DOWNLOAD], program.opened())
+        soon(opened, SECONDS_OF_SILENCE)
+        expect("the second button opens", [DOWNLOAD], opened())
 
 
 def check_silence(path, models, server, authority, tools):
@@ -207,7 +174,7 @@ def check_silence(path, models, server, authority, tools):
     good = f"https://localhost:{server.server_port}/versions.plist"
     for name, manifest, trusted in (("a refused connection", "https://localhost:9/versions.plist", authority),
                                     ("an unknown authority", good, "/nowhere.crt")):
-        with Program(path, models, manifest, trusted, tools):
+        with asking(path, models, manifest, trusted, tools):
             expect(name, 0, alerts_of(server, SECONDS_OF_SILENCE))
 
 
@@ -223,17 +190,5 @@ def run_all(path, models):
             check(path, models, server, authority, folder)
 
 
-def main():
-    if sys.argv[1] == "--inside":
-        run_all(*sys.argv[2:])
-        return 0
-    missing = [tool for tool in ("xvfb-run", "xdotool", "openssl") if not shutil.which(tool)]
-    if missing:
-        sys.exit("not installed: " + ", ".join(missing))
-    command = ["xvfb-run", "--auto-servernum", "--server-args=-screen 0 1280x800x24 -noreset",
-               sys.executable, os.path.abspath(__file__), "--inside", *sys.argv[1:]]
-    return subprocess.run(command, check=False).returncode
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    run_on_own_screen(run_all, "openssl")

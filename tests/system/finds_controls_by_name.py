@@ -8,14 +8,10 @@ and the output can be read.
 """
 
 import os
-import shutil
-import subprocess
 import sys
-import tempfile
-import time
 
-SECONDS_TO_OPEN = 60
-SCREEN = "1280x800x24"
+from own_screen import run_on_own_screen, running
+
 CONTROLS = {
     ("menu item", name) for name in ("File", "Edit", "Text", "View", "Tools", "Window", "Help")
 } | {
@@ -24,23 +20,6 @@ CONTROLS = {
     ("combo box", "Types"),  # on Linux, Qt names a combo box by what it shows
     ("text", "Input"), ("text", "Output"), ("text", "Key"), ("text", "Concordance"),
 }
-
-
-def missing_tools():
-    missing = [tool for tool in ("xvfb-run", "dbus-run-session") if not shutil.which(tool)]
-    try:
-        import pyatspi  # noqa: F401
-    except ImportError:
-        missing.append("python3-pyatspi")
-    return missing
-
-
-def run_on_own_desktop():
-    """On an X server and a session bus of its own, where the accessibility bus starts when it is asked for."""
-    command = ["dbus-run-session", "--", "xvfb-run", "--auto-servernum",
-               f"--server-args=-screen 0 {SCREEN} -noreset",
-               sys.executable, os.path.abspath(__file__), "--inside", *sys.argv[1:]]
-    return subprocess.run(command, check=False).returncode
 
 
 def is_shown(node):
@@ -74,17 +53,6 @@ def controls_of(window):
     return [node for node in descendants(window) if is_shown(node)]
 
 
-def wait_for(condition, program, what):
-    deadline = time.monotonic() + SECONDS_TO_OPEN
-    while time.monotonic() < deadline:
-        if program.poll() is not None:
-            sys.exit(f"the program ended with {program.returncode} before {what}")
-        if result := condition():
-            return result
-        time.sleep(0.3)
-    sys.exit(f"no {what} within {SECONDS_TO_OPEN} seconds")
-
-
 def check(window, text):
     controls = controls_of(window)
     found = {(node.getRoleName(), node.name) for node in controls}
@@ -105,28 +73,14 @@ def check(window, text):
 def walk(program_path, file, models):
     with open(file, encoding="utf-8") as source:
         text = source.read()
-    with tempfile.TemporaryDirectory() as home:
-        environment = dict(os.environ, HOME=home, XDG_CONFIG_HOME=home, XDG_STATE_HOME=home, LC_ALL="C.UTF-8",
-                           LEXIFORM_MODELS=models, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-        with subprocess.Popen([program_path, file], env=environment) as program:
-            try:
-                title = os.path.basename(file)
-                window = wait_for(lambda: window_titled(title), program, f'window named "{title}"')
-                wait_for(lambda: len(controls_of(window)) >= len(CONTROLS), program, "controls")
-                check(window, text)
-            finally:
-                program.terminate()
+    title = os.path.basename(file)
+    with running([program_path, file], models, LC_ALL="C.UTF-8", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1") as program:
+        window = program.wait_for(lambda: window_titled(title), f'window named "{title}"')
+        program.wait_for(lambda: len(controls_of(window)) >= len(CONTROLS), "controls")
+        check(window, text)
     print("every control was found by its name")
 
 
-def main():
-    if sys.argv[1] == "--inside":
-        walk(*sys.argv[2:])
-        return 0
-    if missing := missing_tools():
-        sys.exit("not installed: " + ", ".join(missing))
-    return run_on_own_desktop()
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    # The accessibility bus starts on a session bus of the test's own when it is asked for.
+    run_on_own_screen(walk, around=("dbus-run-session", "--"))

@@ -7,15 +7,10 @@ Passes when a window with the file's name for its title shows words in several c
 """
 
 import os
-import re
-import shutil
-import subprocess
 import sys
-import tempfile
-import time
 
-SECONDS_TO_OPEN = 60
-SCREEN = "1280x800x24"
+from own_screen import picture_of, run_on_own_screen, running
+
 # The class colours on a light pane.
 CLASS_COLOURS = {
     "noun": (0x00, 0x55, 0xD4),
@@ -34,31 +29,6 @@ TOLERANCE = 12  # the strokes of letters are softened
 PART_WITH_WORDS = 0.66
 
 
-def missing_tools():
-    return [tool for tool in ("xvfb-run", "xwininfo", "import") if not shutil.which(tool)]
-
-
-def run_on_own_server():
-    command = ["xvfb-run", "--auto-servernum", f"--server-args=-screen 0 {SCREEN} -noreset",
-               sys.executable, os.path.abspath(__file__), "--inside", *sys.argv[1:]]
-    return subprocess.run(command, check=False).returncode
-
-
-def window_titled(title):
-    """The id of the window with exactly this title, or None."""
-    found = subprocess.run(["xwininfo", "-name", title], capture_output=True, text=True, check=False)
-    match = re.search(r'Window id: (0x[0-9a-f]+) "(.*)"$', found.stdout, re.MULTILINE)
-    return match.group(1) if match and match.group(2) == title else None
-
-
-def picture_of(window):
-    """Width, height and RGB bytes of a window on screen."""
-    data = subprocess.run(["import", "-window", window, "-depth", "8", "ppm:-"],
-                          capture_output=True, check=True).stdout
-    header = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", data)
-    return int(header.group(1)), int(header.group(2)), data[header.end():]
-
-
 def colours_in(window):
     """How many pixels of the panes with words have each class colour, or nearly."""
     width, height, pixels = picture_of(window)
@@ -74,18 +44,6 @@ def colours_in(window):
     return counts
 
 
-def wait_for(condition, program, what):
-    deadline = time.monotonic() + SECONDS_TO_OPEN
-    while time.monotonic() < deadline:
-        if program.poll() is not None:
-            sys.exit(f"the program ended with {program.returncode} before {what}")
-        result = condition()
-        if result:
-            return result
-        time.sleep(0.2)
-    sys.exit(f"no {what} within {SECONDS_TO_OPEN} seconds")
-
-
 def enough_colours(window):
     counts = colours_in(window)
     print(counts, flush=True)
@@ -95,27 +53,12 @@ def enough_colours(window):
 def look(program_path, file, models):
     if not os.path.exists(os.path.join(models, "en.lxm")):
         sys.exit(f"no model of English in {models}")
-    with tempfile.TemporaryDirectory() as home:
-        environment = dict(os.environ, HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home,
-                           LEXIFORM_MODELS=models, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR="1")
-        with subprocess.Popen([program_path, file], env=environment) as program:
-            try:
-                title = os.path.basename(file)
-                window = wait_for(lambda: window_titled(title), program, f'window titled "{title}"')
-                wait_for(lambda: enough_colours(window), program, "words in the class colours")
-            finally:
-                program.terminate()
+    title = os.path.basename(file)
+    with running([program_path, file], models) as program:
+        window = program.window(title)
+        program.wait_for(lambda: enough_colours(window), "words in the class colours")
     print(f'"{title}" is shown in colour')
 
 
-def main():
-    if sys.argv[1] == "--inside":
-        look(*sys.argv[2:])
-        return 0
-    if missing := missing_tools():
-        sys.exit("not installed: " + ", ".join(missing))
-    return run_on_own_server()
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    run_on_own_screen(look, "import")

@@ -13,13 +13,14 @@ import os
 import re
 import shutil
 import statistics
-import subprocess
-import sys
 import tempfile
 import time
 
+from own_screen import give_keyboard_to, run_on_own_screen, running, windows_titled, xdotool
+
 SECONDS_A_STEP = 120
 VIEWS = 4
+BASE = "base.txt"  # the window that stays
 INPUT_PANE, POP_UP = (300, 300), (740, 52)
 # Of the growth, what the allocator's own rhythm explains.
 TOLERATED_GROWTH = 1.03
@@ -27,45 +28,14 @@ TOLERATED_GROWTH = 1.03
 HARMLESS = re.compile(r"XDG_RUNTIME_DIR|propagateSizeHints")
 
 
-def xdotool(*arguments):
-    return subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True, check=False).stdout
-
-
-def windows_titled(title):
-    return xdotool("search", "--onlyvisible", "--name", f"^{re.escape(title)}$").split()
-
-
-def titles_on_screen():
-    return [xdotool("getwindowname", window).strip() for window in
-            xdotool("search", "--onlyvisible", "--name", ".+").split()]
-
-
-def wait_for(condition, what):
-    deadline = time.monotonic() + SECONDS_A_STEP
-    while time.monotonic() < deadline:
-        found = condition()
-        if found:
-            return found
-        time.sleep(0.1)
-    sys.exit(f"waited in vain for {what}; on screen: {titles_on_screen()}")
-
-
-def give_keyboard_to(title):
-    # There is no window manager that would.
-    window = wait_for(lambda: windows_titled(title), f"a window “{title}”")[-1]
-    xdotool("windowraise", window)
-    xdotool("windowfocus", "--sync", window)
-    return window
-
-
 class Person:
     """Works the program with mouse and keyboard, and waits after each step until it has nothing more to do."""
 
-    def __init__(self, process):
-        self.process = process
+    def __init__(self, program):
+        self.program = program
 
     def processor_time(self):
-        with open(f"/proc/{self.process.pid}/stat", encoding="utf-8") as stat:
+        with open(f"/proc/{self.program.process.pid}/stat", encoding="utf-8") as stat:
             return sum(map(int, stat.read().rsplit(")", 1)[1].split()[11:13]))
 
     def rest(self):
@@ -73,6 +43,14 @@ class Person:
         before = None
         while before != (before := self.processor_time()):
             time.sleep(0.3)
+
+    def wait_for(self, condition, what):
+        return self.program.wait_for(condition, what, SECONDS_A_STEP)
+
+    def give_keyboard_to(self, title):
+        window = self.wait_for(lambda: windows_titled(title), f"window “{title}”")[-1]
+        give_keyboard_to(window)
+        return window
 
     def click(self, window, place):
         xdotool("mousemove", "--window", window, *place, "click", 1)
@@ -87,13 +65,13 @@ class Person:
         xdotool("type", text)
         self.rest()
 
-    def open_document(self, path, base):
-        give_keyboard_to(base)
+    def open_document(self, path):
+        self.give_keyboard_to(BASE)
         self.press("ctrl+o")
-        give_keyboard_to("Open")
+        self.give_keyboard_to("Open")
         self.write(path)
         self.press("Return")
-        wait_for(lambda: windows_titled(os.path.basename(path)), "the opened document")
+        self.wait_for(lambda: windows_titled(os.path.basename(path)), "opened document")
         self.rest()
 
     def choose_each_view(self, window):
@@ -103,51 +81,49 @@ class Person:
 
     def work_on(self, path, number):
         name = os.path.basename(path)
-        window = give_keyboard_to(name)
+        window = self.give_keyboard_to(name)
         self.click(window, INPUT_PANE)
         self.press("ctrl+Home")
         self.write(f"Round {number}: the cat sat. ")
         self.press("ctrl+r", "ctrl+shift+r")
         self.choose_each_view(window)
-        give_keyboard_to(name)
+        self.give_keyboard_to(name)
         self.press("ctrl+l", "ctrl+r", "ctrl+s")
-        wait_for(lambda: self.has_saved(path, number), "the saved text")
+        self.wait_for(lambda: self.has_saved(path, number), "saved text")
         self.press("ctrl+w")
-        wait_for(lambda: not windows_titled(name), "the window's end")
+        self.wait_for(lambda: not windows_titled(name), "end of the window")
 
     def has_saved(self, path, number):
         """Parses and saves anew where the program asks whether to save a view: a busy machine loses keys."""
         if f"Round {number}:" in open(path, encoding="utf-8").read():
             return True
         if windows_titled("Lexiform"):
-            give_keyboard_to("Lexiform")
+            self.give_keyboard_to("Lexiform")
             self.press("Escape")
-            give_keyboard_to(os.path.basename(path))
+            self.give_keyboard_to(os.path.basename(path))
             self.press("ctrl+r", "ctrl+s")
         return False
 
 
-def measure(process):
+def measure(pid):
     """Resident megabytes, threads, open files."""
-    with open(f"/proc/{process.pid}/status", encoding="utf-8") as status:
+    with open(f"/proc/{pid}/status", encoding="utf-8") as status:
         fields = dict(line.split(":", 1) for line in status)
     return (int(fields["VmRSS"].split()[0]) / 1024, int(fields["Threads"]),
-            len(os.listdir(f"/proc/{process.pid}/fd")))
+            len(os.listdir(f"/proc/{pid}/fd")))
 
 
-def soak(process, folder, text, minutes):
+def soak(program, text, minutes):
     """The resident megabytes behind each round."""
-    person = Person(process)
-    base, path = "base.txt", os.path.join(folder, "document.txt")
+    person = Person(program)
+    path = os.path.join(program.home, "document.txt")
     began = time.monotonic()
     said, memory = -1, []
     while time.monotonic() < began + 60 * minutes:
         shutil.copyfile(text, path)
-        person.open_document(path, base)
+        person.open_document(path)
         person.work_on(path, len(memory))
-        if process.poll() is not None:
-            sys.exit(f"the program ended with {process.returncode}")
-        megabytes, threads, files = measure(process)
+        megabytes, threads, files = measure(program.process.pid)
         memory.append(megabytes)
         minute = int((time.monotonic() - began) / 60)
         if minute > said:
@@ -167,34 +143,16 @@ def verdict(memory, errors):
     return 0 if not spoken and after <= before * TOLERATED_GROWTH else 1
 
 
-def run(program, models, text, minutes):
-    with tempfile.TemporaryDirectory() as folder, open(os.path.join(folder, "errors"), "w+",
-                                                       encoding="utf-8") as errors:
-        base = os.path.join(folder, "base.txt")
+def run(path, models, text, minutes):
+    with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryFile("w+", encoding="utf-8") as errors:
+        base = os.path.join(folder, BASE)
         with open(base, "w", encoding="utf-8") as file:
             file.write("The cat sat.\n")
-        environment = dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder, XDG_STATE_HOME=folder,
-                           XDG_RUNTIME_DIR=folder, LEXIFORM_MODELS=models, QT_QPA_PLATFORM="xcb")
-        process = subprocess.Popen([program, base], env=environment, stderr=errors)
-        try:
-            memory = soak(process, folder, text, float(minutes))
-        finally:
-            process.terminate()
-            process.wait()
+        with running([path, base], models, stderr=errors) as program:
+            memory = soak(program, text, float(minutes))
         errors.seek(0)
         return verdict(memory, errors.readlines())
 
 
-def main():
-    if sys.argv[1] == "--inside":
-        return run(*sys.argv[2:])
-    missing = [tool for tool in ("xvfb-run", "xdotool") if not shutil.which(tool)]
-    if missing:
-        sys.exit("not installed: " + ", ".join(missing))
-    command = ["xvfb-run", "--auto-servernum", "--server-args=-screen 0 1280x800x24 -noreset",
-               sys.executable, os.path.abspath(__file__), "--inside", *sys.argv[1:]]
-    return subprocess.run(command, check=False).returncode
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    run_on_own_screen(run)

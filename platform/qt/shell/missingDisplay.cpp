@@ -23,12 +23,16 @@ bool argumentNamesDisplay(const QString& argument) {
 
 } // namespace
 
-std::optional<QString> missingDisplay(const QStringList& arguments) {
-    if (environmentNamesDisplay()) return std::nullopt;
-    if (std::any_of(arguments.begin(), arguments.end(), argumentNamesDisplay)) return std::nullopt;
+QString noDisplayMessage() {
     return QCoreApplication::translate("missingDisplay",
                                        "There is no display to show windows on. In a terminal, "
                                        "lexiform-cli reads texts.");
+}
+
+std::optional<QString> missingDisplay(const QStringList& arguments) {
+    if (environmentNamesDisplay()) return std::nullopt;
+    if (std::any_of(arguments.begin(), arguments.end(), argumentNamesDisplay)) return std::nullopt;
+    return noDisplayMessage();
 }
 
 } // namespace lexiform::qt

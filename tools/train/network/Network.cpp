@@ -4,6 +4,7 @@
 #include "linguistics/text/UniversalPos.h"
 #include "tools/train/network/MatrixProduct.h"
 #include "tools/train/network/VectorClones.h"
+#include "tools/train/network/addRow.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,12 +30,6 @@ bool anyPosMayFollow(std::size_t, std::size_t) {
 bool nameMayFollow(std::size_t previous, std::size_t next) {
     const std::size_t before = previous == nameLabelCount ? 0 : previous;
     return mayFollow(static_cast<NameLabel>(before), static_cast<NameLabel>(next));
-}
-
-LEXIFORM_VECTOR_CLONES
-void addRow(float* LEXIFORM_ALONE sum, const float* row, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i)
-        sum[i] += row[i];
 }
 
 LEXIFORM_VECTOR_CLONES

@@ -2,6 +2,7 @@
 
 #include "tools/train/network/MatrixProduct.h"
 #include "tools/train/network/VectorClones.h"
+#include "tools/train/network/addRow.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,12 +59,6 @@ void retreat(const float* gates, const float* before, const float* state, const 
         byOutput[i] = outputGradient[i] * state[i] * gateSlope(gates[2 * units + i]);
         carried[i] = byState * (1 - u);
     }
-}
-
-LEXIFORM_VECTOR_CLONES
-void addRow(float* LEXIFORM_ALONE sum, const float* row, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i)
-        sum[i] += row[i];
 }
 
 Matrix transposed(const Matrix& matrix, std::size_t paddedRows) {

@@ -1,4 +1,4 @@
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
 #include "platform/qt/documents/DocumentController.h"
 
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QFile>
 

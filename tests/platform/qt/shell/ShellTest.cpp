@@ -3,7 +3,7 @@
 #include "platform/qt/shell/QtBundle.h"
 #include "platform/qt/sidewindows/sideScenes.h"
 #include "tests/platform/qt/shell/support/HttpsServer.h"
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QDesktopServices>
 #include <QMessageBox>

@@ -1,6 +1,6 @@
 #include "platform/qt/panes/PaneFont.h"
 
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QLabel>
 

@@ -1,7 +1,7 @@
 #include "platform/qt/windows/DocumentWindow.h"
 
 #include "platform/qt/windows/PopUpBox.h"
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QMenuBar>
 #include <QStandardItemModel>

@@ -1,7 +1,7 @@
 #include "platform/qt/windows/EditMenu.h"
 #include "platform/qt/panes/softBreak.h"
 
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>

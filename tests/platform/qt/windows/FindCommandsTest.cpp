@@ -1,6 +1,6 @@
 #include "platform/qt/windows/FindBar.h"
 
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QMenuBar>
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "platform/qt/windows/ApplicationActions.h"
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QMenuBar>
 

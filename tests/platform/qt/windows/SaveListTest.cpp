@@ -1,5 +1,5 @@
 #include "platform/qt/windows/DocumentWindow.h"
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QFile>
 #include <QLineEdit>

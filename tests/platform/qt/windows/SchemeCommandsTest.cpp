@@ -1,6 +1,6 @@
 #include "platform/qt/windows/DocumentWindow.h"
 #include "platform/qt/windows/PopUpBox.h"
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 #include "tests/support/TableTagger.h"
 
 #include <QScrollBar>

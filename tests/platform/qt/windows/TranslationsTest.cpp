@@ -1,7 +1,7 @@
 #include "platform/qt/windows/interfaceLanguage.h"
 
 #include "platform/qt/windows/ApplicationActions.h"
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QDir>
 #include <QMenuBar>

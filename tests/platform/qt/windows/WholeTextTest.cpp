@@ -1,6 +1,6 @@
 #include "linguistics/Engine.h"
 #include "platform/linguistics/LinguisticTagger.h"
-#include "tests/platform/qt/windows/DesktopUnderTest.h"
+#include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inCatalan {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -18,8 +19,10 @@ Rules rules() {
 }
 
 } // namespace
+} // namespace inCatalan
 
 Recipe catalan() {
+    using namespace inCatalan;
     Recipe recipe;
     recipe.training = {
         {.file = "ca_ancora-train.sigmorphon2019.conllu",

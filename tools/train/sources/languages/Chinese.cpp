@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inChinese {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -35,8 +36,10 @@ Rules conjunctions() {
 }
 
 } // namespace
+} // namespace inChinese
 
 Recipe chinese() {
+    using namespace inChinese;
     const std::vector<Preparation> script = {simplifiedCharacters(), fullWidthPunctuation()};
     Recipe recipe;
     recipe.training = {

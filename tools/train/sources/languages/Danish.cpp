@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inDanish {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -45,8 +46,10 @@ Rules others() {
 }
 
 } // namespace
+} // namespace inDanish
 
 Recipe danish() {
+    using namespace inDanish;
     const Rules rules = joined({auxiliaries(), others()});
     Recipe recipe;
     recipe.training = {

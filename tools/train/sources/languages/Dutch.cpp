@@ -4,6 +4,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inDutch {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -82,8 +83,10 @@ Rules rules() {
 }
 
 } // namespace
+} // namespace inDutch
 
 Recipe dutch() {
+    using namespace inDutch;
     Recipe recipe;
     recipe.training = {
         {.file = "nl_alpino-train.salvaged.conllu", .tagWeight = 1, .lemmaWeight = 1, .rules = rules()},

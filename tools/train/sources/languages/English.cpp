@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inEnglish {
 namespace {
 
 // One lemma for what the treebanks write in two ways.
@@ -38,8 +39,10 @@ Rules tweets() {
 }
 
 } // namespace
+} // namespace inEnglish
 
 Recipe english() {
+    using namespace inEnglish;
     Recipe recipe;
     recipe.training = {
         {.file = "en_ewt-train.conllu", .tagWeight = 1, .lemmaWeight = 1, .hasSpacing = true},

@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inFinnish {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -17,8 +18,10 @@ Rules rules() {
 }
 
 } // namespace
+} // namespace inFinnish
 
 Recipe finnish() {
+    using namespace inFinnish;
     Recipe recipe;
     recipe.training = {
         {.file = "fi_tdt-train.sigmorphon2019.conllu",

@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inFrench {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -82,8 +83,10 @@ Rules functionWordsOutsideNames() {
 }
 
 } // namespace
+} // namespace inFrench
 
 Recipe french() {
+    using namespace inFrench;
     Recipe recipe;
     recipe.training = {
         {.file = "fr_sequoia-train.conllu",

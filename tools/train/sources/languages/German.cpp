@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inGerman {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -98,8 +99,10 @@ Rules withoutCodes() {
 }
 
 } // namespace
+} // namespace inGerman
 
 Recipe german() {
+    using namespace inGerman;
     // Words inside names have their own part of speech where they have one.
     const Preparation ownClasses = likeElsewhere(PROPN, {NOUN, ADJ, ADP, DET, CCONJ, NUM}, 0.3);
     Recipe recipe;

@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inIndonesian {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -42,8 +43,10 @@ Rules numerals() {
 }
 
 } // namespace
+} // namespace inIndonesian
 
 Recipe indonesian() {
+    using namespace inIndonesian;
     Recipe recipe;
     recipe.training = {
         {.file = "id_gsd-train.salvaged.conllu",

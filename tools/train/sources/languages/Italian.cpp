@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inItalian {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -34,8 +35,10 @@ Rules tweets() {
 }
 
 } // namespace
+} // namespace inItalian
 
 Recipe italian() {
+    using namespace inItalian;
     Recipe recipe;
     recipe.training = {
         {.file = "it_markit-train.conllu",

@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inKorean {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -15,8 +16,10 @@ Rules rules() {
 }
 
 } // namespace
+} // namespace inKorean
 
 Recipe korean() {
+    using namespace inKorean;
     Recipe recipe;
     recipe.training = {
         {.file = "ko_gsd-train.salvaged.conllu",

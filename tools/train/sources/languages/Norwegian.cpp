@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inNorwegian {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -47,8 +48,10 @@ Rules others() {
 }
 
 } // namespace
+} // namespace inNorwegian
 
 Recipe norwegian() {
+    using namespace inNorwegian;
     Recipe recipe;
     recipe.training = {
         {.file = "nb_bokmaal-train.sigmorphon2019.conllu",

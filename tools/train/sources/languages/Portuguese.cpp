@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inPortuguese {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -82,8 +83,10 @@ Preparation rejoined() {
 }
 
 } // namespace
+} // namespace inPortuguese
 
 Recipe portuguese() {
+    using namespace inPortuguese;
     Recipe recipe;
     recipe.training = {
         {.file = "pt_bosque-train.conllu", .tagWeight = 1, .lemmaWeight = 1, .hasSpacing = true},

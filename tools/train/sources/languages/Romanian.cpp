@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inRomanian {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -19,8 +20,10 @@ Rules rules() {
 }
 
 } // namespace
+} // namespace inRomanian
 
 Recipe romanian() {
+    using namespace inRomanian;
     Recipe recipe;
     recipe.training = {
         {.file = "ro_rrt-train.salvaged.conllu",

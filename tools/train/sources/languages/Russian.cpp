@@ -5,6 +5,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inRussian {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -106,8 +107,10 @@ Rules commonNounsOutsideNames() {
 }
 
 } // namespace
+} // namespace inRussian
 
 Recipe russian() {
+    using namespace inRussian;
     Recipe recipe;
     recipe.training = {
         {.file = "ru_taiga-train.salvaged.conllu",

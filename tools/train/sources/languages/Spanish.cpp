@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inSpanish {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -112,8 +113,10 @@ Rules web() {
 }
 
 } // namespace
+} // namespace inSpanish
 
 Recipe spanish() {
+    using namespace inSpanish;
     // Names without a type: the annotation leaves them outside.
     const Preparation whollyNamed = withoutSentencesWith(
         Condition([](Place place) { return place.token().finePos == "np00000" && outsideNames()(place); }));

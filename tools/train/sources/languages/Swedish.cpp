@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inSwedish {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -55,8 +56,10 @@ Rules rules() {
 }
 
 } // namespace
+} // namespace inSwedish
 
 Recipe swedish() {
+    using namespace inSwedish;
     Recipe recipe;
     recipe.training = {
         {.file = "sv_talbanken-train.sigmorphon2019.conllu",

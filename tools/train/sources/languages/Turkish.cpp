@@ -3,6 +3,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inTurkish {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -35,8 +36,10 @@ Rules words() {
 }
 
 } // namespace
+} // namespace inTurkish
 
 Recipe turkish() {
+    using namespace inTurkish;
     Recipe recipe;
     recipe.training = {
         {.file = "tr_atis-train.conllu",

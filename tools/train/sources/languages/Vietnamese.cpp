@@ -2,6 +2,7 @@
 
 namespace lexiform::train::recipes {
 
+namespace inVietnamese {
 namespace {
 
 using enum linguistics::UniversalPos;
@@ -19,8 +20,10 @@ Rules rules() {
 }
 
 } // namespace
+} // namespace inVietnamese
 
 Recipe vietnamese() {
+    using namespace inVietnamese;
     Recipe recipe;
     recipe.training = {
         {.file = "vi_vtb-train.conllu",

@@ -8,7 +8,7 @@
 #include "platform/qt/documents/SceneStoryboard.h"
 #include "platform/qt/windows/DocumentWindow.h"
 #include "platform/qt/windows/documentScene.h"
-#include "tests/platform/qt/documents/support/NotedQuestions.h"
+#include "tests/platform/qt/support/NotedQuestions.h"
 #include "tests/support/PlainDoubles.h"
 #include "tests/support/ScriptedTagger.h"
 
