@@ -29,7 +29,8 @@ public:
     explicit Work(const Engine& engine)
         : models_(engine.models()), languages_(engine.models().identifier(), engine.options().language) {}
 
-    const Paragraph& paragraphAt(std::string_view text, std::size_t start, const TextContext& context) {
+    const Paragraph& paragraphAt(std::string_view text, std::size_t start, const TextContext& context,
+                                 Depth depth) {
         std::vector<Token>& tokens = paragraph_.tokens;
         tokens.clear();
         paragraph_.range = linguistics::paragraphAt(text, start);
@@ -43,8 +44,8 @@ public:
         markScripts(text, tokens);
         tagByCharacters(text, tokens);
         languages_.mark(text, language, learned != nullptr ? learned->commonWords : WordSet(), tokens);
-        tagSpans(text);
-        giveOwnLemmas(text, tokens);
+        if (depth >= Depth::classes) tagSpans(text, depth);
+        if (depth >= Depth::lemmas) giveOwnLemmas(text, tokens);
         return paragraph_;
     }
 
@@ -54,7 +55,7 @@ private:
             if (tagger) tagger->startParagraph();
     }
 
-    void tagSpans(std::string_view text) {
+    void tagSpans(std::string_view text, Depth depth) {
         const auto spans = languages_.spans();
         const auto owners = languages_.owners();
         for (std::uint32_t i = 0; i < spans.size(); ++i) {
@@ -62,7 +63,7 @@ private:
             const std::size_t length = span.end - span.first;
             if (SpanTagger* const tagger = taggerFor(span.language))
                 tagger->tag(text, std::span(paragraph_.tokens).subspan(span.first, length),
-                            owners.subspan(span.first, length), i);
+                            owners.subspan(span.first, length), i, depth);
         }
     }
 
@@ -87,9 +88,10 @@ Analyser::~Analyser() = default;
 Analyser::Analyser(Analyser&&) noexcept = default;
 Analyser& Analyser::operator=(Analyser&&) noexcept = default;
 
-void Analyser::analyse(std::string_view text, const TextContext& context, const Visitor& visitor) {
+void Analyser::analyse(std::string_view text, const TextContext& context, Depth depth,
+                       const Visitor& visitor) {
     for (std::size_t start = 0; start < text.size();) {
-        const Paragraph& paragraph = work_->paragraphAt(text, start, context);
+        const Paragraph& paragraph = work_->paragraphAt(text, start, context, depth);
         if (!visitor(paragraph)) return;
         start = paragraph.range.end();
     }

@@ -35,7 +35,11 @@ public:
 
     /// Analyses all of `text`, paragraph by paragraph. What it says depends on the paragraph and the
     /// context alone, so that a text may be given in parts that end where a paragraph ends.
-    void analyse(std::string_view text, const TextContext& context, const Visitor& visitor);
+    void analyse(std::string_view text, const TextContext& context, const Visitor& visitor) {
+        analyse(text, context, Depth::lemmas, visitor);
+    }
+    /// The same no further than `depth`, which changes nothing of what is told.
+    void analyse(std::string_view text, const TextContext& context, Depth depth, const Visitor& visitor);
 
 private:
     class Work;

@@ -35,8 +35,13 @@ void Engine::analyse(std::string_view text, const Visitor& visitor) const {
 }
 
 void Engine::analyse(std::string_view text, const TextContext& context, const Visitor& visitor) const {
+    analyse(text, context, Depth::lemmas, visitor);
+}
+
+void Engine::analyse(std::string_view text, const TextContext& context, Depth depth,
+                     const Visitor& visitor) const {
     Analyser analyser = takeAnalyser();
-    analyser.analyse(text, context, visitor);
+    analyser.analyse(text, context, depth, visitor);
     giveBack(std::move(analyser));
 }
 

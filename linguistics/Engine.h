@@ -35,6 +35,9 @@ public:
     /// `context` tells. What was worked out of its words serves later calls.
     void analyse(std::string_view text, const Visitor& visitor) const;
     void analyse(std::string_view text, const TextContext& context, const Visitor& visitor) const;
+    /// The same no further than `depth`, which changes nothing of what is told.
+    void analyse(std::string_view text, const TextContext& context, Depth depth,
+                 const Visitor& visitor) const;
 
     /// What the beginning of a text, or all of it, tells of the whole.
     [[nodiscard]] TextContext contextOf(std::string_view text) const;

@@ -4,7 +4,6 @@
 #include "linguistics/segmentation/LowerCasedHash.h"
 
 #include <algorithm>
-#include <array>
 
 namespace lexiform::linguistics {
 
@@ -17,6 +16,8 @@ constexpr int enoughToTell = 60;
 constexpr int enoughAgainstTheText = 90;
 constexpr int enoughToDiffer = 95;
 constexpr std::uint32_t fewestLettersToDiffer = 20;
+// More than nearly all names and titles have.
+constexpr std::ptrdiff_t fewestWordsToDiffer = 8;
 
 constexpr std::size_t enoughWordsToLookAt = 12;
 
@@ -38,30 +39,31 @@ std::string_view mainScriptOf(std::span<const Token> tokens) {
     return most == lengths.end() ? std::string_view() : most->first;
 }
 
-std::string_view stretchOf(std::string_view text, std::span<const Token> tokens) {
-    const std::size_t start = tokens.front().range.start;
-    return text.substr(start, tokens.back().range.end() - start);
+/// Whether a token is a word and no figure.
+bool isLettered(const Token& token) {
+    return token.kind == TokenKind::word && token.pos != UniversalPos::NUM;
 }
 
-/// What closes the quotation that `mark` opens; empty if it opens none.
-std::string_view closingOf(std::string_view mark) {
-    struct Pair {
-        std::string_view opening, closing;
-    };
-    static constexpr std::array pairs = {Pair{"\"", "\""}, Pair{"“", "”"}, Pair{"„", "“"},
-                                         Pair{"«", "»"},   Pair{"»", "«"}, Pair{"「", "」"}};
-    for (const Pair& pair : pairs)
-        if (mark == pair.opening) return pair.closing;
-    return {};
-}
+/// Whether most words of a text are common ones of its language. To look for them costs little, and spares
+/// nearly every sentence and quotation the full question.
+class CommonWordCount {
+public:
+    explicit CommonWordCount(const WordSet& common) : common_(common) {}
 
-/// The index of the first token from `from` on that is spelt `spelling`; `end` if there is none.
-std::size_t findSpelt(std::string_view spelling, std::string_view text, std::span<const Token> tokens,
-                      std::size_t from, std::size_t end) {
-    while (from < end && substring(text, tokens[from].range) != spelling)
-        ++from;
-    return from;
-}
+    void add(std::string_view text, std::span<const Token> tokens) {
+        for (const Token& token : tokens) {
+            if (words_ == enoughWordsToLookAt) return;
+            if (token.kind != TokenKind::word) continue;
+            ++words_;
+            found_ += common_.holds(lowerCasedHash(substring(text, token.range))) ? 1 : 0;
+        }
+    }
+    [[nodiscard]] bool isMost() const { return found_ * 2 >= words_ && !common_.empty(); }
+
+private:
+    const WordSet& common_;
+    std::size_t words_ = 0, found_ = 0;
+};
 
 } // namespace
 
@@ -77,78 +79,104 @@ ToldLanguage LanguageMarker::languageOf(std::string_view paragraph, std::string_
 
 void LanguageMarker::mark(std::string_view text, ToldLanguage language, const WordSet& commonWords,
                           std::span<Token> tokens) {
-    spans_.clear();
-    foreign_.clear();
+    text_ = text;
+    tokens_ = tokens;
+    language_ = language;
     commonWords_ = commonWords;
-    owners_.assign(tokens.size(), 0);
     mainScript_ = mainScriptOf(tokens);
+    spans_.clear();
+    named_.clear();
+    owners_.assign(tokens.size(), 0);
     std::size_t first = 0;
     for (std::size_t i = 1; i <= tokens.size(); ++i) {
         if (i < tokens.size() && !tokens[i].startsSentence) continue;
-        takeSentence(text, language, tokens, first, i);
+        takeSentence({first, i});
         first = i;
     }
     for (std::size_t i = 0; i < tokens.size(); ++i) {
         const LanguageSpan& span = spans_[owners_[i]];
         if (span.isTold) tokens[i].language = span.language;
     }
-    for (const LanguageSpan& span : foreign_)
-        for (std::size_t i = span.first; i < span.end; ++i)
-            tokens[i].language = span.language;
+    for (const auto& [stretch, name] : named_)
+        for (std::size_t i = stretch.first; i < stretch.end; ++i)
+            tokens[i].language = name;
 }
 
-void LanguageMarker::takeSentence(std::string_view text, ToldLanguage language, std::span<const Token> tokens,
-                                  std::size_t first, std::size_t end) {
-    if (!forced_.empty()) return put(language, first, end);
-    findQuotations(text, tokens, first, end);
-    const bool isWhole = first == 0 && end == tokens.size();
-    const bool isOwn = isWhole || looksOwn(text, tokens.subspan(first, end - first));
-    ToldLanguage own = isOwn && quotations_.empty()
-                           ? language
-                           : languageWithin(textOutsideQuotations(text, tokens, first, end), language);
-    if (isInAnotherScript(own, tokens.subspan(first, end - first)))
-        own = languageByScript(stretchOf(text, tokens.subspan(first, end - first)), own);
-    put(own, first, end);
-    for (const auto& [start, close] : quotations_) {
-        const ToldLanguage within =
-            languageWithin(stretchOf(text, tokens.subspan(start, close - start)), own);
-        if (within.language != own.language) put(within, start, close);
+void LanguageMarker::takeSentence(TokenStretch sentence) {
+    if (!forced_.empty()) return put(language_, sentence);
+    quotations_.find(text_, tokens_, sentence, fewestLettersToDiffer);
+    const ToldLanguage own = languageOfSentence(sentence);
+    put(own, sentence);
+    for (const TokenStretch& quotation : quotations_.quoted()) {
+        const ToldLanguage within = languageOfQuotation(quotation, own);
+        if (within.language != own.language) put(within, quotation);
     }
-    takeOtherScripts(text, own, tokens, first, end);
+    takeOtherScripts(own.language, sentence);
 }
 
-// Words in another script than the sentence's are in another language. A few of them are still words of the
-// sentence, and its model knows best what they are in it.
-void LanguageMarker::takeOtherScript(std::string_view stretch, std::size_t first, std::size_t end) {
-    const Guess guess = identifier_.guess(stretch);
-    const bool isTold = guess.confidence() >= enoughToTell;
-    if (isTold && guess.letters >= fewestLettersToDiffer) return put({guess.language, true}, first, end);
-    foreign_.push_back({first, end, isTold ? guess.language : std::string_view(), isTold});
+ToldLanguage LanguageMarker::languageOfSentence(TokenStretch sentence) {
+    const auto around = quotations_.around();
+    const bool isParagraph = sentence.end - sentence.first == tokens_.size() && around.size() == 1;
+    ToldLanguage own =
+        isParagraph || looksOwn(around) ? language_ : languageWithin(joined(around), language_);
+    if (own.language != language_.language && keepsMainScript(own.language, sentence)) own = language_;
+    return isInAnotherScript(own.language, sentence) ? languageByScript(textOf(sentence), own) : own;
 }
 
-void LanguageMarker::takeOtherScripts(std::string_view text, ToldLanguage language,
-                                      std::span<const Token> tokens, std::size_t first, std::size_t end) {
+ToldLanguage LanguageMarker::languageOfQuotation(TokenStretch quotation, ToldLanguage around) const {
+    if (around.language == language_.language && looksOwn({&quotation, 1})) return around;
+    return languageWithin(textOf(quotation), around);
+}
+
+void LanguageMarker::takeOtherScripts(std::string_view language, TokenStretch sentence) {
     const auto isOther = [&](std::size_t i) {
-        return !tokens[i].script.empty() && !isWrittenIn(language.language, tokens[i].script);
+        return !tokens_[i].script.empty() && !isWrittenIn(language, tokens_[i].script);
     };
-    for (std::size_t start = first; start < end; ++start) {
-        if (!isOther(start)) continue;
-        std::size_t next = start + 1;
-        while (next < end && isOther(next))
-            ++next;
-        takeOtherScript(stretchOf(text, tokens.subspan(start, next - start)), start, next);
-        start = next;
+    for (std::size_t first = sentence.first; first < sentence.end; ++first) {
+        if (!isOther(first)) continue;
+        std::size_t end = first + 1;
+        while (end < sentence.end && isOther(end))
+            ++end;
+        takeOtherScript({first, end});
+        first = end;
     }
 }
 
-bool LanguageMarker::isInAnotherScript(ToldLanguage language, std::span<const Token> sentence) {
+// A few words in another script, a name or a title, are words of the sentence: its model knows best what they
+// are in it, and only a script that one language has to itself tells another.
+void LanguageMarker::takeOtherScript(TokenStretch stretch) {
+    const auto tokens = stretch.of(tokens_);
+    if (std::count_if(tokens.begin(), tokens.end(), isLettered) < fewestWordsToDiffer) {
+        const std::string_view only = onlyLanguageOf(tokens.front().script);
+        if (!only.empty()) named_.push_back({stretch, only});
+        return;
+    }
+    const Guess guess = identifier_.guess(textOf(stretch));
+    if (guess.letters >= fewestLettersToDiffer && guess.confidence() >= enoughToTell)
+        put({guess.language, true}, stretch);
+}
+
+bool LanguageMarker::isInAnotherScript(std::string_view language, TokenStretch sentence) {
     bool hasWords = false;
-    for (const Token& token : sentence) {
+    for (const Token& token : sentence.of(tokens_)) {
         if (token.kind != TokenKind::word || token.script.empty()) continue;
-        if (isWrittenIn(language.language, token.script)) return false;
+        if (isWrittenIn(language, token.script)) return false;
         hasWords = true;
     }
     return hasWords;
+}
+
+// A sentence with a long name or title in it may hold more letters of that than of its own.
+bool LanguageMarker::keepsMainScript(std::string_view other, TokenStretch sentence) {
+    const auto scripts = scriptsWritten(other);
+    if (std::find(scripts.begin(), scripts.end(), mainScript_) != scripts.end()) return false;
+    std::size_t words = 0, main = 0;
+    for (const Token& token : sentence.of(tokens_)) {
+        if (!isLettered(token)) continue;
+        ++words;
+        main += token.script == mainScript_ ? 1 : 0;
+    }
+    return main * 3 >= words;
 }
 
 // However short it is: a guess is better than the model of a language that has no such letters.
@@ -157,49 +185,31 @@ ToldLanguage LanguageMarker::languageByScript(std::string_view sentence, ToldLan
     return guess.language.empty() ? around : ToldLanguage{guess.language, guess.confidence() >= enoughToTell};
 }
 
-void LanguageMarker::findQuotations(std::string_view text, std::span<const Token> tokens, std::size_t first,
-                                    std::size_t end) {
-    quotations_.clear();
-    for (std::size_t i = first; i < end; ++i) {
-        if (tokens[i].kind != TokenKind::punctuation) continue;
-        const std::string_view closing = closingOf(substring(text, tokens[i].range));
-        if (closing.empty()) continue;
-        const std::size_t close = findSpelt(closing, text, tokens, i + 1, end);
-        if (close == end) continue;
-        const std::size_t length = tokens[close].range.start - tokens[i].range.end();
-        if (length >= fewestLettersToDiffer) quotations_.emplace_back(i + 1, close);
-        i = close;
-    }
+bool LanguageMarker::looksOwn(std::span<const TokenStretch> stretches) const {
+    CommonWordCount count(commonWords_);
+    for (const TokenStretch& stretch : stretches)
+        count.add(text_, stretch.of(tokens_));
+    return count.isMost();
 }
 
-std::string_view LanguageMarker::textOutsideQuotations(std::string_view text, std::span<const Token> tokens,
-                                                       std::size_t first, std::size_t end) {
-    if (quotations_.empty()) return stretchOf(text, tokens.subspan(first, end - first));
-    outside_.clear();
-    for (const auto& [start, close] : quotations_) {
-        if (start > first) outside_ += stretchOf(text, tokens.subspan(first, start - first));
-        first = close;
-    }
-    return outside_ += stretchOf(text, tokens.subspan(first, end - first));
+std::string_view LanguageMarker::textOf(TokenStretch stretch) const {
+    const std::size_t start = tokens_[stretch.first].range.start;
+    return text_.substr(start, tokens_[stretch.end - 1].range.end() - start);
 }
 
-// Most words of a sentence are common ones of its language: to look for them costs little, and spares nearly
-// every sentence the full question.
-bool LanguageMarker::looksOwn(std::string_view text, std::span<const Token> tokens) const {
-    std::size_t words = 0, common = 0;
-    for (const Token& token : tokens) {
-        if (token.kind != TokenKind::word) continue;
-        ++words;
-        common += commonWords_.holds(lowerCasedHash(substring(text, token.range))) ? 1 : 0;
-        if (words == enoughWordsToLookAt) break;
-    }
-    return common * 2 >= words && !commonWords_.empty();
+std::string_view LanguageMarker::joined(std::span<const TokenStretch> stretches) {
+    if (stretches.size() == 1) return textOf(stretches.front());
+    joined_.clear();
+    for (const TokenStretch& stretch : stretches)
+        joined_ += textOf(stretch);
+    return joined_;
 }
 
-void LanguageMarker::put(ToldLanguage language, std::size_t first, std::size_t end) {
-    std::fill(owners_.begin() + static_cast<std::ptrdiff_t>(first),
-              owners_.begin() + static_cast<std::ptrdiff_t>(end), static_cast<std::uint32_t>(spans_.size()));
-    spans_.push_back({first, end, language.language, language.isTold});
+void LanguageMarker::put(ToldLanguage language, TokenStretch stretch) {
+    std::fill(owners_.begin() + static_cast<std::ptrdiff_t>(stretch.first),
+              owners_.begin() + static_cast<std::ptrdiff_t>(stretch.end),
+              static_cast<std::uint32_t>(spans_.size()));
+    spans_.push_back({stretch.first, stretch.end, language.language, language.isTold});
 }
 
 ToldLanguage LanguageMarker::languageWithin(std::string_view stretch, ToldLanguage around) const {
@@ -212,9 +222,14 @@ ToldLanguage LanguageMarker::languageWithin(std::string_view stretch, ToldLangua
 
 bool LanguageMarker::isWrittenIn(std::string_view language, std::string_view script) {
     if (script == mainScript_) return true;
+    const auto scripts = scriptsWritten(language);
+    return std::find(scripts.begin(), scripts.end(), script) != scripts.end();
+}
+
+std::span<const std::string_view> LanguageMarker::scriptsWritten(std::string_view language) {
     auto found = scripts_.find(language);
     if (found == scripts_.end()) found = scripts_.emplace(language, scriptsOf(language)).first;
-    return std::find(found->second.begin(), found->second.end(), script) != found->second.end();
+    return found->second;
 }
 
 } // namespace lexiform::linguistics

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "linguistics/LanguageSpan.h"
+#include "linguistics/Quotations.h"
 #include "linguistics/language/LanguageIdentifier.h"
 #include "linguistics/segmentation/LearnedSegmentation.h"
 #include "linguistics/text/Analysis.h"
@@ -47,32 +48,37 @@ public:
     [[nodiscard]] std::span<const std::uint32_t> owners() const { return owners_; }
 
 private:
-    void takeSentence(std::string_view text, ToldLanguage language, std::span<const Token> tokens,
-                      std::size_t first, std::size_t end);
-    void takeOtherScript(std::string_view stretch, std::size_t first, std::size_t end);
-    void takeOtherScripts(std::string_view text, ToldLanguage language, std::span<const Token> tokens,
-                          std::size_t first, std::size_t end);
-    [[nodiscard]] bool isInAnotherScript(ToldLanguage language, std::span<const Token> sentence);
-    [[nodiscard]] ToldLanguage languageByScript(std::string_view sentence, ToldLanguage around) const;
-    void findQuotations(std::string_view text, std::span<const Token> tokens, std::size_t first,
-                        std::size_t end);
-    [[nodiscard]] std::string_view textOutsideQuotations(std::string_view text, std::span<const Token> tokens,
-                                                         std::size_t first, std::size_t end);
-    [[nodiscard]] bool looksOwn(std::string_view text, std::span<const Token> tokens) const;
-    void put(ToldLanguage language, std::size_t first, std::size_t end);
-    [[nodiscard]] ToldLanguage languageWithin(std::string_view stretch, ToldLanguage around) const;
+    void takeSentence(TokenStretch sentence);
+    [[nodiscard]] ToldLanguage languageOfSentence(TokenStretch sentence);
+    [[nodiscard]] ToldLanguage languageOfQuotation(TokenStretch quotation, ToldLanguage around) const;
+    void takeOtherScripts(std::string_view language, TokenStretch sentence);
+    void takeOtherScript(TokenStretch stretch);
+    void put(ToldLanguage language, TokenStretch stretch);
+
+    [[nodiscard]] bool isInAnotherScript(std::string_view language, TokenStretch sentence);
     [[nodiscard]] bool isWrittenIn(std::string_view language, std::string_view script);
+    [[nodiscard]] std::span<const std::string_view> scriptsWritten(std::string_view language);
+    [[nodiscard]] bool keepsMainScript(std::string_view other, TokenStretch sentence);
+    [[nodiscard]] bool looksOwn(std::span<const TokenStretch> stretches) const;
+    [[nodiscard]] ToldLanguage languageByScript(std::string_view sentence, ToldLanguage around) const;
+    [[nodiscard]] ToldLanguage languageWithin(std::string_view stretch, ToldLanguage around) const;
+    [[nodiscard]] std::string_view textOf(TokenStretch stretch) const;
+    [[nodiscard]] std::string_view joined(std::span<const TokenStretch> stretches);
 
     const LanguageIdentifier& identifier_;
     std::string forced_;
-    std::string_view mainScript_; ///< of the paragraph at hand
-    WordSet commonWords_;         ///< likewise
+    // Of the paragraph at hand.
+    std::string_view text_;
+    std::span<const Token> tokens_;
+    ToldLanguage language_;
+    WordSet commonWords_; ///< of its language
+    std::string_view mainScript_;
     std::vector<LanguageSpan> spans_;
     std::vector<std::uint32_t> owners_;
-    std::vector<LanguageSpan> foreign_; ///< words in another script that belong to their sentence
-    // Of the sentence at hand: the long quotations, first token and one past the last; the text around.
-    std::vector<std::pair<std::size_t, std::size_t>> quotations_;
-    std::string outside_;
+    /// Few words that their script gives a language, but which are analysed with their sentence.
+    std::vector<std::pair<TokenStretch, std::string_view>> named_;
+    Quotations quotations_; ///< of the sentence at hand
+    std::string joined_;
     std::map<std::string, std::vector<std::string_view>, std::less<>> scripts_; ///< by language
 };
 

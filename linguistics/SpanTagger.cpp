@@ -78,12 +78,12 @@ void SpanTagger::startParagraph() {
 }
 
 void SpanTagger::tag(std::string_view text, std::span<Token> tokens, std::span<const std::uint32_t> owners,
-                     std::uint32_t owner) {
+                     std::uint32_t owner, Depth depth) {
     gatherWords(text, tokens, owners, owner);
     if (words_.empty()) return;
     label();
     if (!model_->classifiers().empty()) markClassifiers();
-    if (lemmas_) lemmatize();
+    if (lemmas_ && depth >= Depth::lemmas) lemmatize();
 }
 
 void SpanTagger::gatherWords(std::string_view text, std::span<Token> tokens,

@@ -28,9 +28,9 @@ public:
     /// Completes the tokens of a sentence or of a part of one, which have their kinds, scripts and the
     /// parts of speech that their characters tell; their ranges count from the start of `text`. Tokens
     /// whose number in `owners`, which is as long, is not `owner` serve as context and keep what they
-    /// have. Lemmas last until `startParagraph`.
+    /// have. Lemmas, which are given where `depth` says so, last until `startParagraph`.
     void tag(std::string_view text, std::span<Token> tokens, std::span<const std::uint32_t> owners,
-             std::uint32_t owner);
+             std::uint32_t owner, Depth depth);
 
 private:
     void gatherWords(std::string_view text, std::span<Token> tokens, std::span<const std::uint32_t> owners,

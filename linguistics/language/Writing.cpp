@@ -77,6 +77,12 @@ std::string_view onlyLanguageOf(Writing writing) {
     return {};
 }
 
+std::string_view onlyLanguageOf(std::string_view script) {
+    for (const WritingRow& row : rows)
+        if (script == uscript_getShortName(row.script)) return row.language;
+    return {};
+}
+
 LetterTable::LetterTable() {
     for (std::size_t value = 0; value < planeSize; ++value) {
         writings_[value] = computedWriting(static_cast<char32_t>(value));

@@ -55,6 +55,9 @@ static_assert(writingCount <= 32);
 /// Han without kana counts as Chinese.
 [[nodiscard]] std::string_view onlyLanguageOf(Writing writing);
 
+/// The same of a script, by its ISO 15924 code; empty for a code that is not known, too.
+[[nodiscard]] std::string_view onlyLanguageOf(std::string_view script);
+
 /// Whether a character may stand inside a word without spelling anything: a soft hyphen, a stretching
 /// stroke, a vowel point, a mark that no letter took in.
 [[nodiscard]] bool isSilent(char32_t value);

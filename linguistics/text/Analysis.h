@@ -22,6 +22,13 @@ enum class TokenKind : std::uint8_t {
 /// Whose name a token is part of.
 enum class NameType : std::uint8_t { none, person, place, organization };
 
+/// How much an analysis tells of its tokens. Each tells what those before it do, and takes longer.
+enum class Depth : std::uint8_t {
+    languages, ///< their kinds, sentences, scripts and languages; of parts of speech what characters tell
+    classes,   ///< their parts of speech, names and classifiers as well
+    lemmas,    ///< all that a token holds
+};
+
 /// One token of a text. Every byte of a paragraph lies in exactly one of its tokens.
 struct Token {
     TextRange range{}; ///< bytes of the analysed text
@@ -40,7 +47,7 @@ struct Token {
     std::string_view script{};
     /// BCP 47, for example "en"; empty where it cannot be told. Lasts as long as the paragraph.
     std::string_view language{};
-    /// The dictionary form; nothing for white space. Lasts as long as the paragraph.
+    /// The dictionary form; nothing for white space, and where none was asked for. Lasts as long as the paragraph.
     std::optional<std::string_view> lemma{};
 };
 

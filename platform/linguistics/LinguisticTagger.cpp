@@ -11,6 +11,7 @@ namespace lexiform {
 
 namespace {
 
+using linguistics::Depth;
 using linguistics::Engine;
 using linguistics::Paragraph;
 using linguistics::TextContext;
@@ -54,9 +55,9 @@ public:
     }
 
     /// The document is one token, with the tag of its first paragraph that has one.
-    void document(const Engine& engine, const TextContext& context) const {
+    void document(const Engine& engine, const TextContext& context, Depth depth) const {
         std::optional<std::string> tag; // outlives the paragraph that it comes from
-        engine.analyse(text_, context, [&](const Paragraph& paragraph) {
+        engine.analyse(text_, context, depth, [&](const Paragraph& paragraph) {
             if (const Tag found = wholeOf(paragraph, text_, tagOf_).tag) tag = *found;
             return !tag;
         });
@@ -88,7 +89,8 @@ bool areKnown(std::span<const TagScheme> schemes) {
 
 LinguisticTagger::LinguisticTagger(std::shared_ptr<const Engine> engine, std::span<const TagScheme> schemes,
                                    std::optional<TextContext> context)
-    : engine_(std::move(engine)), given_(std::move(context)), keepsAnalysis_(schemes.size() > 1) {}
+    : engine_(std::move(engine)), given_(std::move(context)), depth_(depthFor(schemes)),
+      keepsAnalysis_(schemes.size() > 1) {}
 
 void LinguisticTagger::setString(std::string text) {
     text_ = std::move(text);
@@ -108,8 +110,10 @@ void LinguisticTagger::enumerateTags(TextRange range, NLTokenUnit unit, TagSchem
     const Visit visit(text, range.start, tagsUnder(scheme, unit), visitor);
     const bool everyWord = unit == NLTokenUnit::word && options.empty();
     if (everyWord && keepsAnalysis_) return enumerateKept(range, scheme, visitor);
-    if (unit == NLTokenUnit::document) return visit.document(*engine_, context());
-    engine_->analyse(text, context(), [&](const Paragraph& paragraph) {
+    if (unit == NLTokenUnit::document) return visit.document(*engine_, context(), depth_);
+    // What is left out and what is joined depends on classes and names, whatever the scheme.
+    const Depth depth = options.empty() ? depth_ : std::max(depth_, Depth::classes);
+    engine_->analyse(text, context(), depth, [&](const Paragraph& paragraph) {
         if (everyWord) return visit.everyToken(paragraph);
         if (unit == NLTokenUnit::word) return visit.words(paragraph, options);
         return unit == NLTokenUnit::sentence ? visit.sentences(paragraph) : visit.whole(paragraph);
@@ -118,7 +122,7 @@ void LinguisticTagger::enumerateTags(TextRange range, NLTokenUnit unit, TagSchem
 
 void LinguisticTagger::enumerateKept(TextRange range, TagScheme scheme, const Visitor& visitor) {
     if (!words_ || kept_ != range) {
-        words_.emplace(substring(text_, range), *engine_, context());
+        words_.emplace(substring(text_, range), *engine_, context(), depth_);
         kept_ = range;
     }
     words_->enumerate(scheme, range.start, visitor);

@@ -33,6 +33,7 @@ private:
 
     std::shared_ptr<const linguistics::Engine> engine_;
     std::optional<linguistics::TextContext> given_;
+    linguistics::Depth depth_; ///< as far as its schemes need
     bool keepsAnalysis_;
     std::string text_;
     std::optional<linguistics::TextContext> own_; ///< of the text, once it was needed

@@ -14,8 +14,8 @@ constexpr StringPool::Number absentTag = std::numeric_limits<StringPool::Number>
 } // namespace
 
 TaggedWords::TaggedWords(std::string_view text, const linguistics::Engine& engine,
-                         const linguistics::TextContext& context) {
-    engine.analyse(text, context, [&](const linguistics::Paragraph& paragraph) {
+                         const linguistics::TextContext& context, linguistics::Depth depth) {
+    engine.analyse(text, context, depth, [&](const linguistics::Paragraph& paragraph) {
         add(paragraph, text);
         return true;
     });

@@ -11,12 +11,12 @@
 
 namespace lexiform {
 
-/// Every word of a text with its tags under the four schemes, from one analysis: twenty bytes a word
-/// and each distinct tag once.
+/// Every word of a text with its tags under the four schemes, from one analysis as deep as is asked for:
+/// twenty bytes a word and each distinct tag once.
 class TaggedWords {
 public:
     TaggedWords(std::string_view text, const linguistics::Engine& engine,
-                const linguistics::TextContext& context);
+                const linguistics::TextContext& context, linguistics::Depth depth);
 
     /// Calls `visitor` for every word with its tag under one of the four schemes, until it has enough. The
     /// text begins at byte `start` of the one that the ranges are told in.

@@ -2,10 +2,13 @@
 
 #include "platform/linguistics/LexicalTags.h"
 
+#include <algorithm>
+
 namespace lexiform {
 
 namespace {
 
+using linguistics::Depth;
 using linguistics::Token;
 
 using Tag = std::optional<std::string_view>;
@@ -35,6 +38,14 @@ TagOfToken wordTagsUnder(TagScheme scheme) {
     if (scheme == NLTagSchemeLanguage) return languageTag;
     if (scheme == NLTagSchemeLemma) return lemmaTag;
     return nullptr;
+}
+
+linguistics::Depth depthFor(std::span<const TagScheme> schemes) {
+    const auto has = [&](TagScheme scheme) {
+        return std::find(schemes.begin(), schemes.end(), scheme) != schemes.end();
+    };
+    if (has(NLTagSchemeLemma)) return Depth::lemmas;
+    return has(NLTagSchemeNameTypeOrLexicalClass) ? Depth::classes : Depth::languages;
 }
 
 } // namespace lexiform

@@ -86,6 +86,42 @@ TEST(Contract, letsTheVisitorStop) {
     EXPECT_EQ(calls, 2);
 }
 
+TEST(Contract, tellsTheSameAtEachDepthAsFarAsItGoes) {
+    const Engine engine(
+        std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{LEXIFORM_MODELS_DIR}));
+    const std::string text = "Ms. Okafor counted 12 boats. “Où sont les autres bateaux du port ?” she asked.";
+    const AnalysedText whole = analysed(text);
+    const std::vector<Token> all = whole.tokens();
+    for (const Depth depth : {Depth::languages, Depth::classes, Depth::lemmas})
+        engine.analyse(text, engine.contextOf(text), depth, [&](const Paragraph& paragraph) {
+            EXPECT_EQ(paragraph.tokens.size(), all.size());
+            for (std::size_t i = 0; i < all.size(); ++i) {
+                const Token& token = paragraph.tokens.at(i);
+                EXPECT_EQ(token.range, all[i].range);
+                EXPECT_EQ(token.startsSentence, all[i].startsSentence);
+                EXPECT_EQ(token.script, all[i].script);
+                EXPECT_EQ(token.language, all[i].language);
+                EXPECT_EQ(token.lemma.has_value(), depth == Depth::lemmas && all[i].lemma.has_value());
+                if (depth == Depth::languages) continue;
+                EXPECT_EQ(token.pos, all[i].pos);
+                EXPECT_EQ(token.name, all[i].name);
+            }
+            return true;
+        });
+}
+
+TEST(Contract, tellsOfClassesWhatCharactersTellWhereNoneAreWanted) {
+    const Engine engine(
+        std::make_shared<const ModelStore>(std::vector<std::filesystem::path>{LEXIFORM_MODELS_DIR}));
+    std::vector<UniversalPos> classes;
+    engine.analyse("Paris, 1900", {}, Depth::languages, [&](const Paragraph& paragraph) {
+        for (const Token& token : paragraph.tokens)
+            if (!isGap(token)) classes.push_back(token.pos);
+        return true;
+    });
+    EXPECT_EQ(classes, (std::vector{UniversalPos::X, UniversalPos::PUNCT, UniversalPos::NUM}));
+}
+
 TEST(Contract, givesEachParagraphTheSameTokensAlone) {
     const std::string first = "The river rose all night. Nobody in Harlow slept.\n\n";
     const std::string second = "In the morning Ms. Okafor counted the boats; two were gone.";

@@ -41,6 +41,48 @@ TEST(Language, isToldOfAQuotationWithinASentence) {
     EXPECT_EQ(text.token("heavy").language, "en");
 }
 
+TEST(Language, ofAQuotationInTheWordsOfItsParagraphIsTheParagraphs) {
+    const AnalysedText text = analysed(
+        "Nobody in the village had seen them. “We have not seen the ships of the king since the winter,” "
+        "said the captain. He closed the heavy door.");
+    EXPECT_EQ(text.token("ships").language, "en");
+    EXPECT_EQ(text.token("captain").language, "en");
+}
+
+TEST(Language, ofASentenceAroundAForeignQuotationIsItsOwn) {
+    const AnalysedText text = analysed("We had waited at the harbour since the morning. Then he said to us, "
+                                       "“Il n'y avait plus aucun bateau dans le vieux port”, and was gone.");
+    EXPECT_EQ(text.token("said").language, "en");
+    EXPECT_EQ(text.token("bateau").language, "fr");
+    EXPECT_EQ(text.token("gone").language, "en");
+}
+
+TEST(Language, ofANameInAnotherScriptIsThatOfTheSentence) {
+    const AnalysedText text =
+        analysed("Вечером они слушали новый альбом группы Old Harbour Stories и пили чай.");
+    EXPECT_EQ(text.token("альбом").language, "ru");
+    EXPECT_EQ(text.token("Harbour").language, "ru");
+    EXPECT_EQ(text.token("Harbour").script, "Latn");
+    EXPECT_EQ(text.token("чай").language, "ru");
+}
+
+TEST(Language, ofASentenceWithALongForeignTitleIsThatOfItsScript) {
+    const AnalysedText text =
+        analysed("Музыканты долго жили в маленьком доме у моря. Осенью группа выпустила второй альбом "
+                 "Lanterns on the Water at the End of the Year и песню The Ferryman. Потом они уехали.");
+    EXPECT_EQ(text.token("группа").language, "ru");
+    EXPECT_EQ(text.token("выпустила").pos, UniversalPos::VERB);
+    EXPECT_EQ(text.token("Lanterns").language, "en");
+    EXPECT_EQ(text.token("песню").language, "ru");
+    EXPECT_EQ(text.token("Ferryman").language, "ru");
+}
+
+TEST(Language, ofAWordInAScriptThatOnlyOneLanguageHasIsToldByIt) {
+    const AnalysedText text = analysed("The capital of the country is Seoul or 서울, which lies on a river.");
+    EXPECT_EQ(text.token("서울").language, "ko");
+    EXPECT_EQ(text.token("river").language, "en");
+}
+
 TEST(Language, ofAShortParagraphIsThatOfTheText) {
     const AnalysedText text =
         analysed("Kapitel 2\n\nDie Boote waren fort, als sie am Abend vom Markt in das Dorf zurückkamen, und "

@@ -76,6 +76,36 @@ TEST(LinguisticTagger, countsTheTokensOfARangeFromTheStartOfTheText) {
     EXPECT_EQ(starts, (std::vector<std::size_t>{6, 9, 10, 14}));
 }
 
+/// The tags of a tagger that was made for one scheme.
+Tagged taggedWordsByOneOf(const std::string& text, TagScheme scheme, NLTaggerOptions options) {
+    const auto tagger = linguisticTaggers(englishEngine())(std::array{scheme});
+    tagger->setString(text);
+    Tagged tagged;
+    tagger->enumerateTags({0, text.size()}, NLTokenUnit::word, scheme, options,
+                          [&](std::optional<std::string_view> tag, TextRange token) {
+                              tagged.emplace_back(substring(text, token), tag.value_or("-"));
+                              return Next::proceed;
+                          });
+    return tagged;
+}
+
+TEST(LinguisticTagger, saysTheSameWhetherItIsMadeForOneSchemeOrForAll) {
+    const std::string text = "Anna Lindqvist saw 12 boats.\n\n“Où sont les autres bateaux ?” she asked.";
+    for (const TagScheme scheme : fourSchemes)
+        EXPECT_EQ(taggedWordsByOneOf(text, scheme, {}), taggedWordsOf(text, scheme)) << scheme;
+}
+
+TEST(LinguisticTagger, joinsNamesAndLeavesWordsOutUnderEveryScheme) {
+    const std::string text = "Anna Lindqvist saw the boats.";
+    for (const TagScheme scheme : fourSchemes) {
+        const NLTaggerOptions options = {NLTaggerOption::joinNames, NLTaggerOption::omitWhitespace,
+                                         NLTaggerOption::omitPunctuation};
+        const Tagged tagged = taggedWordsByOneOf(text, scheme, options);
+        ASSERT_EQ(tagged.size(), 4U) << scheme;
+        EXPECT_EQ(tagged.front().first, "Anna Lindqvist") << scheme;
+    }
+}
+
 TEST(LinguisticTagger, tagsWordsPunctuationAndWhiteSpace) {
     EXPECT_EQ(taggedWordsOf("The old cat sat on the mat.\n"), (Tagged{{"The", "Determiner"},
                                                                       {" ", "Whitespace"},
