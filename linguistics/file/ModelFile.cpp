@@ -63,7 +63,7 @@ Outcome<std::span<const std::byte>, std::string> ModelFile::bytesOf(SectionId id
         return name + " is of version " + std::to_string(record->version) + ", this program reads " +
                std::to_string(version);
     if (record->size % elementSize != 0) return name + " has a wrong size";
-    return bytes_.subspan(record->offset, record->size);
+    return bytesOf(*record);
 }
 
 } // namespace lexiform::linguistics

@@ -23,6 +23,13 @@ public:
 
     [[nodiscard]] bool has(SectionId id) const { return find(id) != nullptr; }
 
+    /// Where its sections lie, in the order of the file.
+    [[nodiscard]] std::span<const SectionRecord> sections() const { return sections_; }
+    /// The bytes of one of `sections`.
+    [[nodiscard]] std::span<const std::byte> bytesOf(const SectionRecord& section) const {
+        return bytes_.subspan(section.offset, section.size);
+    }
+
     /// The elements of section `id`. The fault says that the section is missing, of another version than
     /// `version`, or no whole number of elements long.
     template <typename Value>

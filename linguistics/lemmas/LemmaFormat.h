@@ -17,6 +17,10 @@ inline constexpr SectionId lemmaRules = SectionId::lemmas;
 inline constexpr auto lemmaBucketStarts = static_cast<SectionId>(49);
 inline constexpr auto lemmaWeights = static_cast<SectionId>(50);
 
+[[nodiscard]] constexpr bool isLemmaSection(SectionId id) {
+    return id == lemmaRules || id == lemmaBucketStarts || id == lemmaWeights;
+}
+
 /// The first labels are casings, then comes the mark of words whose lemma hangs on their neighbours, then
 /// the rules, of which the first changes nothing.
 inline constexpr std::size_t neighbourMark = lemmaCasingCount;

@@ -2,6 +2,7 @@
 
 #include "tools/train/commands/evaluateModel.h"
 #include "tools/train/commands/languages.h"
+#include "tools/train/commands/renewLemmas.h"
 #include "tools/train/commands/reportFault.h"
 #include "tools/train/commands/segmentation.h"
 #include "tools/train/commands/trainModels.h"
@@ -27,13 +28,21 @@ int run(int count, char** arguments) {
     fs::path corpora, folder, model;
     TrainingOptions options;
     std::size_t confusions = 0;
+    bool lemmasAlone = false;
 
     CLI::App* train = app.add_subcommand("train-models", "Train the models of languages");
     train->add_option("languages", languages,
                       "Codes such as en; all that there are corpora for if none is given");
-    train->add_flag("--force", options.force, "Train the models that are there already, too");
-    train->add_option("--teachers", options.teachers,
-                      "How many larger networks teach the tagger; more take longer and help a little");
+    CLI::Option* force =
+        train->add_flag("--force", options.force, "Train the models that are there already, too");
+    CLI::Option* teachers =
+        train->add_option("--teachers", options.teachers,
+                          "How many larger networks teach the tagger; more take longer and help a little");
+    train
+        ->add_flag("--lemmas", lemmasAlone,
+                   "Train the lemmas alone, in models that are there already, and leave all else in them")
+        ->excludes(force)
+        ->excludes(teachers);
     train->add_option("--corpora", corpora, "Folder of the unpacked corpora")
         ->required()
         ->check(CLI::ExistingDirectory);
@@ -48,7 +57,8 @@ int run(int count, char** arguments) {
         ->check(CLI::ExistingDirectory);
     evaluate->add_option("texts", texts, "Annotated texts: CoNLL-U, or lists of names (.tsv)");
 
-    evaluate->add_option("--confusions", confusions, "Show so many of the commonest wrong parts of speech");
+    evaluate->add_option("--confusions", confusions,
+                         "Show so many of the commonest wrong parts of speech, and of the lemmas");
 
     CLI::App* segmentation = app.add_subcommand(
         "segmentation", "Train how languages are cut into tokens and sentences, and measure it");
@@ -80,7 +90,9 @@ int run(int count, char** arguments) {
     if (segmentation->parsed()) return trainAndMeasureSegmentation(languages, corpora, folder);
     if (trainIdentifier->parsed()) return trainLanguages(corpora, folder);
     if (evaluateIdentifier->parsed()) return evaluateLanguages(model, corpora, texts);
-    if (train->parsed()) return trainModels(languages, options, corpora, folder);
+    if (train->parsed())
+        return lemmasAlone ? renewLemmas(languages, corpora, folder)
+                           : trainModels(languages, options, corpora, folder);
     return evaluateModel(model, corpora, texts, confusions);
 }
 

@@ -48,6 +48,11 @@ void printConfusions(const Model& model, const Corpus& gold, std::size_t most) {
         std::printf("  %5zu %s: %s, not %s\n", confusion.count, confusion.form.c_str(),
                     std::string(nameOf(confusion.gold)).c_str(),
                     std::string(nameOf(confusion.system)).c_str());
+    if (model.lemmas() == nullptr) return;
+    for (const LemmaConfusion& confusion : lemmaConfusionsOf(model, *model.lemmas(), gold, most))
+        std::printf("  %5zu %s (%s): lemma %s, not %s\n", confusion.count, confusion.form.c_str(),
+                    std::string(nameOf(confusion.pos)).c_str(), confusion.gold.c_str(),
+                    confusion.system.c_str());
 }
 
 Outcome<Corpus, std::string> readAnnotated(const fs::path& file) {

@@ -1,6 +1,7 @@
 #include "tools/train/evaluation/Confusions.h"
 
 #include "base/Unicode.h"
+#include "tools/train/evaluation/LemmaEvaluation.h"
 
 #include <algorithm>
 #include <map>
@@ -31,16 +32,35 @@ Counts countedOf(const SequenceModel& model, const Corpus& gold) {
     return counts;
 }
 
+template <typename One>
+std::vector<One> commonestOf(std::vector<One> all, std::size_t most) {
+    std::stable_sort(all.begin(), all.end(), [](const One& a, const One& b) { return a.count > b.count; });
+    all.resize(std::min(most, all.size()));
+    return all;
+}
+
 } // namespace
 
 std::vector<Confusion> confusionsOf(const SequenceModel& model, const Corpus& gold, std::size_t most) {
     std::vector<Confusion> confusions;
     for (const auto& [key, count] : countedOf(model, gold))
         confusions.push_back({count, std::get<0>(key), std::get<1>(key), std::get<2>(key)});
-    std::stable_sort(confusions.begin(), confusions.end(),
-                     [](const Confusion& a, const Confusion& b) { return a.count > b.count; });
-    confusions.resize(std::min(most, confusions.size()));
-    return confusions;
+    return commonestOf(std::move(confusions), most);
+}
+
+std::vector<LemmaConfusion> lemmaConfusionsOf(const SequenceModel& model, const LemmaModel& lemmas,
+                                              const Corpus& gold, std::size_t most) {
+    std::map<std::tuple<std::string, std::string, std::string, UniversalPos>, std::size_t> counts;
+    const auto tagger = model.tagger();
+    (void)evaluateLemmas(lemmas, tagger.get(), gold, [&](const LemmaFault& fault) {
+        ++counts[{std::string(fault.word.form), fault.gold, std::string(fault.lemma), fault.word.pos}];
+    });
+    std::vector<LemmaConfusion> confusions;
+    for (const auto& [key, count] : counts) {
+        const auto& [form, right, wrong, pos] = key;
+        confusions.push_back({count, form, right, wrong, pos});
+    }
+    return commonestOf(std::move(confusions), most);
 }
 
 } // namespace lexiform::train

@@ -47,7 +47,7 @@ LemmaFigures evaluateLemmas(const LemmaModel& model, SequenceTagger* tagger, con
             const bool right = isRight(sentence.tokens[at], lemmas[at]);
             figures.words += 1;
             figures.right += right ? 1 : 0;
-            if (!right && faults) faults(sentence, at, lemmas[at]);
+            if (!right && faults) faults({words[at], *sentence.tokens[at].lemma, lemmas[at]});
         }
     }
     return figures;

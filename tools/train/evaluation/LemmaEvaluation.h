@@ -1,11 +1,14 @@
 #pragma once
 
+#include "linguistics/lemmas/LemmaFeatures.h"
 #include "linguistics/lemmas/LemmaModel.h"
 #include "linguistics/tagging/SequenceModel.h"
 #include "tools/train/corpora/Corpus.h"
 
 #include <cstddef>
 #include <functional>
+#include <string>
+#include <string_view>
 
 namespace lexiform::train {
 
@@ -19,9 +22,14 @@ struct LemmaFigures {
     }
 };
 
-/// Told each wrong lemma: the sentence, the place of the word in it, and the lemma given.
-using LemmaFaultVisitor =
-    std::function<void(const GoldSentence& sentence, std::size_t at, std::string_view lemma)>;
+/// A wrong lemma.
+struct LemmaFault {
+    linguistics::TaggedWord word; ///< with the part of speech that it was given
+    std::string gold;
+    std::string_view lemma; ///< the wrong one
+};
+
+using LemmaFaultVisitor = std::function<void(const LemmaFault&)>;
 
 /// Lemmatizes the words of `gold` as they are cut in it, with the tags of `tagger`, or with its own where
 /// that is absent. Of a contraction the lemma of any of its words is right.

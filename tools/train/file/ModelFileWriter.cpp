@@ -11,6 +11,10 @@ void ModelFileWriter::append(SectionId id, std::uint32_t version, std::span<cons
     sections_.push_back({id, version, {bytes.begin(), bytes.end()}});
 }
 
+void ModelFileWriter::append(const ModelFileWriter& other) {
+    sections_.insert(sections_.end(), other.sections_.begin(), other.sections_.end());
+}
+
 std::vector<std::byte> ModelFileWriter::bytes() const {
     std::vector<std::byte> file(sizeof(ModelHeader) + sections_.size() * sizeof(SectionRecord));
     std::size_t place = sizeof(ModelHeader);

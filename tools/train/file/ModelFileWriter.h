@@ -22,6 +22,8 @@ public:
         append(id, version, std::as_bytes(std::span(values)));
     }
     void append(linguistics::SectionId id, std::uint32_t version, std::span<const std::byte> bytes);
+    /// All sections of `other`.
+    void append(const ModelFileWriter& other);
 
     /// The whole file. The same sections give the same bytes.
     [[nodiscard]] std::vector<std::byte> bytes() const;

@@ -4,6 +4,7 @@
 #include "tools/train/evaluation/Confusions.h"
 #include "tools/train/evaluation/GoldText.h"
 #include "tools/train/evaluation/Squeezed.h"
+#include "tools/train/lemmas/LemmaModelWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -172,6 +173,23 @@ TEST(Confusions, listTheCommonestWrongPartsOfSpeech) {
     EXPECT_EQ(confusions[0].count, 2U);
     EXPECT_EQ(confusions[0].gold, VERB);
     EXPECT_EQ(confusions[0].system, NOUN);
+}
+
+TEST(Confusions, listTheCommonestWrongLemmas) {
+    ModelFileWriter writer("xx");
+    writeLemmas(std::vector<LemmaRule>{{}}, {}, writer);
+    const auto bytes = writer.bytes();
+    const auto file = ModelFile::over(bytes);
+    const auto unchanging = LemmaModel::over(file.value());
+    const Corpus gold = {
+        sentence({word("ran", VERB, "run"), word("red", ADJ, "red"), word("ran", VERB, "run")})};
+    const auto confusions = lemmaConfusionsOf(TableModel({}), unchanging.value(), gold, 5);
+    ASSERT_EQ(confusions.size(), 1U);
+    EXPECT_EQ(confusions[0].count, 2U);
+    EXPECT_EQ(confusions[0].form, "ran");
+    EXPECT_EQ(confusions[0].pos, NOUN) << "as the model tags it";
+    EXPECT_EQ(confusions[0].gold, "run");
+    EXPECT_EQ(confusions[0].system, "ran");
 }
 
 } // namespace

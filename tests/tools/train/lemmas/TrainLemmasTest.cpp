@@ -99,8 +99,7 @@ TEST_F(TrainLemmas, measuresFaultsOneByOne) {
     Corpus wrong = {{{token("dogs", UniversalPos::NOUN, "cat")}, true}};
     std::string given;
     const LemmaFigures figures =
-        evaluateLemmas(*model_, nullptr, wrong,
-                       [&](const GoldSentence&, std::size_t, std::string_view lemma) { given = lemma; });
+        evaluateLemmas(*model_, nullptr, wrong, [&](const LemmaFault& fault) { given = fault.lemma; });
     EXPECT_EQ(figures.words, 1U);
     EXPECT_EQ(figures.right, 0U);
     EXPECT_EQ(given, "dog");
