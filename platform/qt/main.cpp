@@ -18,6 +18,7 @@
 #include "platform/qt/shell/missingDisplay.h"
 #include "platform/qt/sidewindows/sideScenes.h"
 #include "platform/qt/theme/ApplicationIcon.h"
+#include "platform/qt/theme/PortalAppearance.h"
 #include "platform/qt/theme/Theme.h"
 #include "platform/qt/theme/pixmapCache.h"
 #include "platform/qt/windows/StateStore.h"
@@ -99,6 +100,8 @@ int run(QApplication& application, const QStringList& files) {
     qt::StateStore store(configFile(QStringLiteral("state.ini")));
     qt::Theme theme(application, store.appearance());
     theme.setClassMarks(store.classMarks());
+    const qt::PortalAppearance portal(QDBusConnection::sessionBus());
+    QObject::connect(&portal, &qt::PortalAppearance::changed, &theme, &qt::Theme::setDesktopPreference);
     qt::WindowList windows;
 
     const auto models = std::make_shared<const linguistics::ModelStore>(modelFolders());

@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>What is saved is the output pane, which does not show them. Parsing puts them there.</source>
-        <translation>Gesichert wird die Ausgabe, und sie zeigt diese nicht. Analysieren bringt sie dorthin.</translation>
+        <translation>Gesichert wird die Ausgabe, in der diese Änderungen fehlen. Analysieren bringt sie dorthin.</translation>
     </message>
     <message>
         <source>&amp;Save Without</source>
@@ -99,7 +99,7 @@
     <name>DocumentSaver</name>
     <message>
         <source>Its window shows nothing that can be saved (%1 %2).</source>
-        <translation>Ihr Fenster zeigt nichts, was sich sichern lässt (%1 %2).</translation>
+        <translation>Das Fenster zeigt nichts, was sich sichern lässt (%1 %2).</translation>
     </message>
     <message>
         <source>A file of that name is open in another window. Close that window first, or take another name.</source>
@@ -136,27 +136,27 @@
     <name>OpenFailure</name>
     <message>
         <source>There is no such file.</source>
-        <translation>Es gibt keine solche Datei.</translation>
+        <translation>Diese Datei gibt es nicht.</translation>
     </message>
     <message>
         <source>It is a folder.</source>
-        <translation>Es ist ein Ordner.</translation>
+        <translation>Das ist ein Ordner.</translation>
     </message>
     <message>
         <source>It is not an ordinary file.</source>
-        <translation>Es ist keine gewöhnliche Datei.</translation>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>You do not have permission to read it.</source>
-        <translation>Sie dürfen sie nicht lesen.</translation>
+        <translation>Sie dürfen diese Datei nicht lesen.</translation>
     </message>
     <message>
         <source>It is larger than 1 GB, more than a window can show.</source>
-        <translation>Sie ist größer als 1 GB, mehr als ein Fenster zeigen kann.</translation>
+        <translation>Die Datei ist größer als 1 GB; mehr kann ein Fenster nicht zeigen.</translation>
     </message>
     <message>
         <source>It could not be read to its end.</source>
-        <translation>Sie konnte nicht bis zum Ende gelesen werden.</translation>
+        <translation>Die Datei konnte nicht bis zum Ende gelesen werden.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Find the script, language, class and lemma of every word</source>
-        <translation>Schrift, Sprache, Klasse und Lemma jedes Wortes finden</translation>
+        <translation>Schrift, Sprache, Klasse und Lemma jedes Wortes bestimmen</translation>
     </message>
     <message>
         <source>&amp;List words</source>
@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>List the words of each class with their counts</source>
-        <translation>Die Wörter jeder Klasse mit ihrer Anzahl auflisten</translation>
+        <translation>Die Wörter jeder Klasse mit ihrer Häufigkeit auflisten</translation>
     </message>
     <message>
         <source>&amp;Save list…</source>
@@ -558,11 +558,11 @@
     </message>
     <message>
         <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
-        <translation>Hier einen Text eintippen oder einfügen, oder eine Datei öffnen. Analysieren färbt dann seine Wörter.</translation>
+        <translation>Hier einen Text eintippen oder einfügen oder eine Datei öffnen. „Analysieren“ färbt dann die Wörter.</translation>
     </message>
     <message>
         <source>Click a line to see its words alone, and once more to see all</source>
-        <translation>Auf eine Zeile klicken, um nur ihre Wörter zu sehen, und noch einmal für alle</translation>
+        <translation>Auf eine Zeile klicken, um nur ihre Wörter zu sehen, und noch einmal, um alle zu sehen</translation>
     </message>
     <message>
         <source>Click a word twice to find it in the output</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Show</source>
-        <translation>Zeigen</translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Choose what the colours of the output show, after a multi-parse</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>Find the place before (Shift+F3)</source>
-        <translation>Die Stelle davor suchen (Umschalt+F3)</translation>
+        <translation>Zur vorigen Fundstelle (Umschalt+F3)</translation>
     </message>
     <message>
         <source>Next</source>
@@ -697,7 +697,7 @@
     </message>
     <message>
         <source>Find the next place (F3)</source>
-        <translation>Die nächste Stelle suchen (F3)</translation>
+        <translation>Zur nächsten Fundstelle (F3)</translation>
     </message>
     <message>
         <source>Match &amp;case</source>
@@ -748,7 +748,7 @@
     </message>
     <message>
         <source>Not a regular expression: %1, at character %2</source>
-        <translation>Kein regulärer Ausdruck: %1, bei Zeichen %2</translation>
+        <translation>Kein gültiger regulärer Ausdruck: %1, bei Zeichen %2</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -914,7 +914,7 @@
     </message>
     <message>
         <source>It is not an ordinary file.</source>
-        <translation>Es ist keine gewöhnliche Datei.</translation>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>The file may only be read.</source>
@@ -922,7 +922,7 @@
     </message>
     <message>
         <source>Its folder is no longer there.</source>
-        <translation>Ihr Ordner ist nicht mehr da.</translation>
+        <translation>Der Ordner ist nicht mehr da.</translation>
     </message>
 </context>
 <context>

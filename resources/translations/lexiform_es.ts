@@ -44,11 +44,11 @@
     </message>
     <message>
         <source>Replace the text of “%1” with the output pane?</source>
-        <translation>¿Sustituir el texto de «%1» por el panel de salida?</translation>
+        <translation>¿Sustituir el texto de «%1» por el contenido del panel de salida?</translation>
     </message>
     <message>
         <source>What is saved is the output pane, which holds other characters than the text. Parsing again puts the text there.</source>
-        <translation>Se guarda el panel de salida, que contiene caracteres distintos de los del texto. Al analizar de nuevo, el texto vuelve allí.</translation>
+        <translation>Se guarda el panel de salida, que contiene caracteres distintos de los del texto. Si se analiza de nuevo, vuelve a contener el texto.</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>What is saved is the output pane, which does not show them. Parsing puts them there.</source>
-        <translation>Se guarda el panel de salida, que no los muestra. Al analizar aparecen allí.</translation>
+        <translation>Se guarda el panel de salida, que no muestra esos cambios. Si se analiza el texto, aparecen en él.</translation>
     </message>
     <message>
         <source>&amp;Save Without</source>
@@ -136,7 +136,7 @@
     <name>OpenFailure</name>
     <message>
         <source>There is no such file.</source>
-        <translation>No existe tal archivo.</translation>
+        <translation>Este archivo no existe.</translation>
     </message>
     <message>
         <source>It is a folder.</source>
@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Find the script, language, class and lemma of every word</source>
-        <translation>Hallar la escritura, la lengua, la clase y el lema de cada palabra</translation>
+        <translation>Determinar la escritura, el idioma, la clase y el lema de cada palabra</translation>
     </message>
     <message>
         <source>&amp;List words</source>
@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>List the words of each class with their counts</source>
-        <translation>Listar las palabras de cada clase y su número</translation>
+        <translation>Listar las palabras de cada clase con su número de apariciones</translation>
     </message>
     <message>
         <source>&amp;Save list…</source>
@@ -350,11 +350,11 @@
     </message>
     <message>
         <source>Language: %1</source>
-        <translation>Lengua: %1</translation>
+        <translation>Idioma: %1</translation>
     </message>
     <message>
         <source>Script: %1</source>
-        <translation>Escritura: %1</translation>
+        <translation>Sistema de escritura: %1</translation>
     </message>
 </context>
 <context>
@@ -558,15 +558,15 @@
     </message>
     <message>
         <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
-        <translation>Escriba o pegue aquí un texto, o abra un archivo. Analizar colorea después sus palabras.</translation>
+        <translation>Escriba o pegue aquí un texto, o abra un archivo. «Analizar» colorea después las palabras.</translation>
     </message>
     <message>
         <source>Click a line to see its words alone, and once more to see all</source>
-        <translation>Pulse una línea para ver solo sus palabras, y otra vez para verlas todas</translation>
+        <translation>Haga clic en una línea para ver solo sus palabras, y otra vez para volver a verlas todas</translation>
     </message>
     <message>
         <source>Click a word twice to find it in the output</source>
-        <translation>Pulse dos veces una palabra para encontrarla en la salida</translation>
+        <translation>Haga doble clic en una palabra para encontrarla en la salida</translation>
     </message>
 </context>
 <context>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>Find the place before (Shift+F3)</source>
-        <translation>Buscar el lugar anterior (Mayús+F3)</translation>
+        <translation>Ir al resultado anterior (Mayús+F3)</translation>
     </message>
     <message>
         <source>Next</source>
@@ -697,7 +697,7 @@
     </message>
     <message>
         <source>Find the next place (F3)</source>
-        <translation>Buscar el lugar siguiente (F3)</translation>
+        <translation>Ir al resultado siguiente (F3)</translation>
     </message>
     <message>
         <source>Match &amp;case</source>
@@ -748,7 +748,7 @@
     </message>
     <message>
         <source>Not a regular expression: %1, at character %2</source>
-        <translation>No es una expresión regular: %1, en el carácter %2</translation>
+        <translation>Expresión regular no válida: %1, en el carácter %2</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -835,11 +835,11 @@
     <name>lexiform::qt::StatusLine</name>
     <message>
         <source>Parsed</source>
-        <translation>Analizado</translation>
+        <translation>Texto analizado</translation>
     </message>
     <message>
         <source>%1, parsed</source>
-        <translation>%1, analizado</translation>
+        <translation>%1, texto analizado</translation>
     </message>
     <message>
         <source>Multi-parsed</source>
@@ -847,7 +847,7 @@
     </message>
     <message>
         <source>%1, multi-parsed</source>
-        <translation>%1, análisis múltiple</translation>
+        <translation>%1, análisis múltiple hecho</translation>
     </message>
     <message>
         <source>1 word</source>

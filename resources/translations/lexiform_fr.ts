@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Replace the text of “%1” with the output pane?</source>
-        <translation>Remplacer le texte de «&#x202f;%1&#x202f;» par le volet de sortie&#x202f;?</translation>
+        <translation>Remplacer le texte de «&#x202f;%1&#x202f;» par le contenu du volet de sortie&#x202f;?</translation>
     </message>
     <message>
         <source>What is saved is the output pane, which holds other characters than the text. Parsing again puts the text there.</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>What is saved is the output pane, which does not show them. Parsing puts them there.</source>
-        <translation>C’est le volet de sortie qui est enregistré, et il ne les montre pas. Une analyse les y met.</translation>
+        <translation>C’est le volet de sortie qui est enregistré, et ces modifications n’y figurent pas. Une analyse les y fait apparaître.</translation>
     </message>
     <message>
         <source>&amp;Save Without</source>
@@ -195,11 +195,11 @@
     </message>
     <message>
         <source>&amp;Wrap Lines of Input</source>
-        <translation>Couper les lignes de l’&amp;entrée</translation>
+        <translation>Retour à la ligne dans l’&amp;entrée</translation>
     </message>
     <message>
         <source>Wrap &amp;Lines of Output</source>
-        <translation>Couper les lignes de la &amp;sortie</translation>
+        <translation>Retour à la ligne dans la &amp;sortie</translation>
     </message>
 </context>
 <context>
@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Find the script, language, class and lemma of every word</source>
-        <translation>Trouver l’écriture, la langue, la classe et le lemme de chaque mot</translation>
+        <translation>Déterminer l’écriture, la langue, la classe et le lemme de chaque mot</translation>
     </message>
     <message>
         <source>&amp;List words</source>
@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>List the words of each class with their counts</source>
-        <translation>Lister les mots de chaque classe et leur nombre</translation>
+        <translation>Lister les mots de chaque classe avec leur nombre d’occurrences</translation>
     </message>
     <message>
         <source>&amp;Save list…</source>
@@ -354,7 +354,7 @@
     </message>
     <message>
         <source>Script: %1</source>
-        <translation>Écriture&#x202f;: %1</translation>
+        <translation>Système d’écriture&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -558,11 +558,11 @@
     </message>
     <message>
         <source>Type or paste a text here, or open a file. Parse then colours its words.</source>
-        <translation>Tapez ou collez un texte ici, ou ouvrez un fichier. Analyser colore ensuite ses mots.</translation>
+        <translation>Tapez ou collez un texte ici, ou ouvrez un fichier. «&#x202f;Analyser&#x202f;» en colore ensuite les mots.</translation>
     </message>
     <message>
         <source>Click a line to see its words alone, and once more to see all</source>
-        <translation>Cliquez sur une ligne pour ne voir que ses mots, et encore une fois pour les voir tous</translation>
+        <translation>Cliquez sur une ligne pour ne voir que ses mots, et encore une fois pour revoir tous les mots</translation>
     </message>
     <message>
         <source>Click a word twice to find it in the output</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Show</source>
-        <translation>Montrer</translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Choose what the colours of the output show, after a multi-parse</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>Find the place before (Shift+F3)</source>
-        <translation>Chercher l’endroit précédent (Maj+F3)</translation>
+        <translation>Aller au résultat précédent (Maj+F3)</translation>
     </message>
     <message>
         <source>Next</source>
@@ -697,7 +697,7 @@
     </message>
     <message>
         <source>Find the next place (F3)</source>
-        <translation>Chercher l’endroit suivant (F3)</translation>
+        <translation>Aller au résultat suivant (F3)</translation>
     </message>
     <message>
         <source>Match &amp;case</source>
@@ -748,7 +748,7 @@
     </message>
     <message>
         <source>Not a regular expression: %1, at character %2</source>
-        <translation>Pas une expression régulière&#x202f;: %1, au caractère %2</translation>
+        <translation>Expression régulière incorrecte&#x202f;: %1, au caractère %2</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -835,11 +835,11 @@
     <name>lexiform::qt::StatusLine</name>
     <message>
         <source>Parsed</source>
-        <translation>Analysé</translation>
+        <translation>Texte analysé</translation>
     </message>
     <message>
         <source>%1, parsed</source>
-        <translation>%1, analysé</translation>
+        <translation>%1, texte analysé</translation>
     </message>
     <message>
         <source>Multi-parsed</source>
@@ -847,7 +847,7 @@
     </message>
     <message>
         <source>%1, multi-parsed</source>
-        <translation>%1, analyse multiple</translation>
+        <translation>%1, analyse multiple faite</translation>
     </message>
     <message>
         <source>1 word</source>
@@ -892,7 +892,7 @@
     <name>missingDisplay</name>
     <message>
         <source>There is no display to show windows on. In a terminal, lexiform-cli reads texts.</source>
-        <translation>Aucun écran où montrer des fenêtres. Dans un terminal, lexiform-cli lit les textes.</translation>
+        <translation>Il n’y a pas d’écran où afficher des fenêtres. Dans un terminal, lexiform-cli lit les textes.</translation>
     </message>
 </context>
 <context>

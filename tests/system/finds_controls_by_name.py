@@ -17,7 +17,7 @@ CONTROLS = {
 } | {
     ("push button", name) for name in ("Parse", "Multi-parse", "List words", "Save list…")
 } | {
-    ("combo box", "Types"),  # on Linux, Qt names a combo box by what it shows
+    ("combo box", "Show"),
     ("text", "Input"), ("text", "Output"), ("text", "Key"), ("text", "Concordance"),
 }
 
@@ -53,9 +53,17 @@ def controls_of(window):
     return [node for node in descendants(window) if is_shown(node)]
 
 
+def spoken_name(node):
+    """What a screen reader calls a control: on Linux, Qt names a box by what it shows and leaves the rest to a label."""
+    import pyatspi
+    labels = [relation.getTarget(0).name for relation in node.getRelationSet()
+              if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY]
+    return labels[0] if labels else node.name
+
+
 def check(window, text):
     controls = controls_of(window)
-    found = {(node.getRoleName(), node.name) for node in controls}
+    found = {(node.getRoleName(), spoken_name(node)) for node in controls}
     for role, name in sorted(found):
         print(f"{role}: {name}")
     if missing := CONTROLS - found:
@@ -64,6 +72,9 @@ def check(window, text):
     nameless = [node.getRoleName() for node in controls if takes_keyboard(node) and not node.name]
     if nameless:
         sys.exit(f"without a name: {nameless}")
+    box = next(node for node in controls if node.getRoleName() == "combo box")
+    if box.name != "Types":
+        sys.exit(f"the box shows {box.name!r}")
     output = next(node for node in controls if (node.getRoleName(), node.name) == ("text", "Output"))
     read = output.queryText().getText(0, -1)
     if read.split() != text.split():

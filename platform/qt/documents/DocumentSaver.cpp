@@ -56,16 +56,21 @@ bool DocumentSaver::saveAs(OpenedDocument& document) {
 }
 
 bool DocumentSaver::saveThere(OpenedDocument& document) {
+    const auto target = chooseTarget(document);
+    return target && write(document, *target);
+}
+
+std::optional<SaveTarget> DocumentSaver::chooseTarget(const OpenedDocument& document) {
     DocumentWindow& window = *windowOf(document);
-    const auto target = questions_.chooseTarget(window, proposalFor(document));
-    if (!target) return false;
-    if (!isOpenElsewhere_(document, target->path)) return write(document, *target);
-    questions_.tellNotSaved(
-        window, QFileInfo(target->path).fileName(),
-        QCoreApplication::translate(
-            "DocumentSaver",
-            "A file of that name is open in another window. Close that window first, or take another name."));
-    return false;
+    auto target = questions_.chooseTarget(window, proposalFor(document));
+    while (target && isOpenElsewhere_(document, target->path)) {
+        questions_.tellNotSaved(
+            window, QFileInfo(target->path).fileName(),
+            QCoreApplication::translate("DocumentSaver", "A file of that name is open in another window. "
+                                                         "Close that window first, or take another name."));
+        target = questions_.chooseTarget(window, *target);
+    }
+    return target;
 }
 
 bool DocumentSaver::write(OpenedDocument& document, const SaveTarget& target) {

@@ -21,12 +21,13 @@ public:
     /// is only viewed. False when nothing was saved.
     bool save(OpenedDocument& document);
     /// Asks where, and makes that the document's file; refuses one that another window shows, for the two
-    /// would overwrite each other.
+    /// would overwrite each other, and asks again.
     bool saveAs(OpenedDocument& document);
 
 private:
     bool saveThere(OpenedDocument& document);
     bool saveHere(OpenedDocument& document);
+    [[nodiscard]] std::optional<SaveTarget> chooseTarget(const OpenedDocument& document);
     bool write(OpenedDocument& document, const SaveTarget& target);
     [[nodiscard]] static SaveTarget proposalFor(const OpenedDocument& document);
 

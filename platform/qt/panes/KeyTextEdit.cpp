@@ -19,12 +19,23 @@ namespace {
 constexpr int swatchLeft = 22;
 constexpr int swatchSize = 12;
 constexpr qreal swatchRadius = 3;
+constexpr int tintLeft = 14;
+constexpr int tintRight = 2;
+constexpr int tintAround = 2;
+constexpr qreal tintRadius = 4;
 constexpr int classColours = static_cast<int>(Colour::text);
+
+bool hasSwatch(const QTextBlock& block) {
+    return block.blockNumber() % 2 == 0 && block.blockNumber() / 2 < classColours && block.length() > 1;
+}
 
 } // namespace
 
 KeyTextEdit::KeyTextEdit(QWidget* parent) : PaneTextEdit(keyMargins, parent) {
     paneLayout().setLineBreaking(breakAfterCommas);
+    hideCaret();
+    connect(this, &QPlainTextEdit::cursorPositionChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(this, &QPlainTextEdit::selectionChanged, viewport(), qOverload<>(&QWidget::update));
 }
 
 void KeyTextEdit::setClassMarks(const ClassMarks& marks) {
@@ -36,11 +47,9 @@ void KeyTextEdit::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        const int line = block.blockNumber() / 2;
-        if (line < classColours && block.blockNumber() % 2 == 0 && block.length() > 1)
-            paintSwatch(painter, line, block);
-    }
+    paintCurrentLine(painter);
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        if (hasSwatch(block)) paintSwatch(painter, block.blockNumber() / 2, block);
     painter.end();
     PaneTextEdit::paintEvent(event);
     if (marks_.underlined) paintClassLines();
@@ -72,14 +81,47 @@ void KeyTextEdit::mouseReleaseEvent(QMouseEvent* event) {
 void KeyTextEdit::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         choose(textCursor());
+    else if (event->matches(QKeySequence::MoveToNextLine))
+        step(1);
+    else if (event->matches(QKeySequence::MoveToPreviousLine))
+        step(-1);
     else
         PaneTextEdit::keyPressEvent(event);
 }
 
+void KeyTextEdit::focusInEvent(QFocusEvent* event) {
+    PaneTextEdit::focusInEvent(event);
+    viewport()->update();
+}
+
+void KeyTextEdit::focusOutEvent(QFocusEvent* event) {
+    PaneTextEdit::focusOutEvent(event);
+    viewport()->update();
+}
+
 void KeyTextEdit::choose(const QTextCursor& cursor) {
-    const int block = cursor.blockNumber();
-    if (block % 2 != 0 || block / 2 >= classColours || cursor.block().length() <= 1) return;
-    emit chosen(static_cast<Colour>(block / 2));
+    if (hasSwatch(cursor.block())) emit chosen(static_cast<Colour>(cursor.blockNumber() / 2));
+}
+
+void KeyTextEdit::step(int lines) {
+    QTextBlock block = textCursor().block();
+    do
+        block = lines > 0 ? block.next() : block.previous();
+    while (block.isValid() && !hasSwatch(block));
+    if (block.isValid()) setTextCursor(QTextCursor(block));
+}
+
+// A selection shows by itself where it is, in the same tint.
+void KeyTextEdit::paintCurrentLine(QPainter& painter) const {
+    const QTextBlock block = textCursor().block();
+    if (!hasFocus() || textCursor().hasSelection() || !hasSwatch(block)) return;
+    const qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+    const QTextLine first = block.layout()->lineAt(0);
+    const QTextLine last = block.layout()->lineAt(block.layout()->lineCount() - 1);
+    const QRectF line(tintLeft, top + first.y() - tintAround, viewport()->width() - tintLeft - tintRight,
+                      last.y() + last.height() - first.y() + 2 * tintAround);
+    painter.setBrush(surfacesOf(appearanceOf(palette())).selection);
+    painter.drawRoundedRect(line, tintRadius, tintRadius);
 }
 
 // Centred on the middle of a capital in the block's first visual line.

@@ -8,6 +8,9 @@ namespace lexiform::qt {
 /// The colour key: lines with an empty line between each two, and beside line k a swatch of class
 /// colour k. An empty line has no swatch, so that an empty key shows nothing at all. A line is
 /// wrapped between its values.
+///
+/// In the place of a caret, the line that the keyboard or the last click is on has a tint while the key has
+/// the keyboard; the keys up and down go from one such line to the next.
 class KeyTextEdit : public PaneTextEdit {
     Q_OBJECT
 
@@ -29,9 +32,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void choose(const QTextCursor& cursor);
+    void step(int lines);
+    void paintCurrentLine(QPainter& painter) const;
     void paintSwatch(QPainter& painter, int line, const QTextBlock& block) const;
     void paintClassLines();
 

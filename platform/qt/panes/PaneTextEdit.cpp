@@ -135,7 +135,7 @@ void PaneTextEdit::paintEvent(QPaintEvent* event) {
     layout_->setPainting(true);
     QPlainTextEdit::paintEvent(&reachingFurther);
     layout_->setPainting(false);
-    paintCaret();
+    if (paintsCaret_) paintCaret();
 }
 
 void PaneTextEdit::paintCaret() {

@@ -76,6 +76,8 @@ protected:
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
     [[nodiscard]] PaneDocumentLayout& paneLayout() const { return *layout_; }
+    /// For a pane that shows in another way where the keyboard is.
+    void hideCaret() { paintsCaret_ = false; }
     /// The selection's characters with their own line ends.
     [[nodiscard]] QString exactSelection() const;
 
@@ -88,6 +90,7 @@ private:
     [[nodiscard]] QPointF onNearestLine(QPointF point) const;
 
     PaneDocumentLayout* layout_ = nullptr;
+    bool paintsCaret_ = true;
     int zoom_ = 0;
     int wheelTurn_ = 0; ///< in eighths of a degree, since the last whole step
     LineEnd ownLineEnd_ = LineEnd::lf;

@@ -2,6 +2,7 @@
 
 #include "platform/qt/theme/Palette.h"
 #include "platform/qt/theme/StyleSheet.h"
+#include "platform/qt/theme/toolkitAppearance.h"
 
 #include <QEvent>
 #include <QScopedValueRollback>
@@ -13,7 +14,7 @@ namespace {
 
 constexpr int middleLightness = 128;
 
-Appearance desktopAppearance(const QPalette& palette) {
+Appearance appearanceOfDesktop(const QPalette& palette) {
     const bool isDark = palette.color(QPalette::Window).lightness() < middleLightness;
     return isDark ? Appearance::dark : Appearance::light;
 }
@@ -21,7 +22,8 @@ Appearance desktopAppearance(const QPalette& palette) {
 } // namespace
 
 Theme::Theme(QApplication& application, AppearanceChoice choice)
-    : application_(application), choice_(choice), desktop_(desktopAppearance(QApplication::palette())) {
+    : application_(application), choice_(choice),
+      desktopPalette_(appearanceOfDesktop(QApplication::palette())) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     setChoice(choice);
     application_.installEventFilter(this);
@@ -31,7 +33,7 @@ void Theme::setChoice(AppearanceChoice choice) {
     choice_ = choice;
     switch (choice) {
     case AppearanceChoice::system:
-        show(desktop_);
+        show(desktopAppearance());
         break;
     case AppearanceChoice::light:
         show(Appearance::light);
@@ -43,6 +45,16 @@ void Theme::setChoice(AppearanceChoice choice) {
     emit choiceChanged();
 }
 
+void Theme::setDesktopPreference(std::optional<Appearance> preference) {
+    preference_ = preference;
+    if (choice_ == AppearanceChoice::system && desktopAppearance() != shown_) show(desktopAppearance());
+}
+
+Appearance Theme::desktopAppearance() const {
+    if (preference_) return *preference_;
+    return toolkitAppearance().value_or(desktopPalette_);
+}
+
 void Theme::setClassMarks(const ClassMarks& marks) {
     if (classMarks_ == marks) return;
     classMarks_ = marks;
@@ -52,16 +64,25 @@ void Theme::setClassMarks(const ClassMarks& marks) {
 bool Theme::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::ApplicationPaletteChange && watched == &application_ && !dressing_)
         followDesktop();
+    if (event->type() == QEvent::ThemeChange) followDesktopSoon();
     return false;
+}
+
+// Every window is told of another theme of the desktop's.
+void Theme::followDesktopSoon() {
+    if (willFollow_) return;
+    willFollow_ = true;
+    QMetaObject::invokeMethod(this, &Theme::followDesktop, Qt::QueuedConnection);
 }
 
 // The program's own palette hides the desktop's: where nobody has put another in its place, taking it
 // off for a moment is the only way to see the desktop's.
 void Theme::followDesktop() {
+    willFollow_ = false;
     const QScopedValueRollback guard(dressing_, true);
     if (QApplication::palette() == paletteOf(shown_)) QApplication::setPalette(QPalette());
-    desktop_ = desktopAppearance(QApplication::palette());
-    show(choice_ == AppearanceChoice::system ? desktop_ : shown_);
+    desktopPalette_ = appearanceOfDesktop(QApplication::palette());
+    show(choice_ == AppearanceChoice::system ? desktopAppearance() : shown_);
 }
 
 void Theme::show(Appearance appearance) {

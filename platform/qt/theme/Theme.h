@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <cstdint>
+#include <optional>
 
 namespace lexiform::qt {
 
@@ -26,6 +27,10 @@ public:
     [[nodiscard]] Appearance appearance() const { return shown_; }
     void setChoice(AppearanceChoice choice);
 
+    /// What the desktop says that it prefers, which goes before what its palette looks like; nothing for a
+    /// desktop that says nothing.
+    void setDesktopPreference(std::optional<Appearance> preference);
+
     /// How all windows mark the classes of words.
     [[nodiscard]] const ClassMarks& classMarks() const { return classMarks_; }
     void setClassMarks(const ClassMarks& marks);
@@ -38,13 +43,17 @@ signals:
 
 private:
     void followDesktop();
+    void followDesktopSoon();
+    [[nodiscard]] Appearance desktopAppearance() const;
     void show(Appearance appearance);
 
     QApplication& application_;
     AppearanceChoice choice_;
-    Appearance desktop_;
+    std::optional<Appearance> preference_;
+    Appearance desktopPalette_; ///< what the desktop's palette looks like
     Appearance shown_ = Appearance::light;
     bool dressing_ = false;
+    bool willFollow_ = false;
     ClassMarks classMarks_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/theme/LineIcon.h"
 
+#include <QLabel>
 #include <QToolButton>
 
 namespace lexiform::qt {
@@ -22,7 +23,7 @@ DocumentToolBar::DocumentToolBar(const TextActions& actions, QWidget* parent)
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setIconSize(lineIconSize);
     setMinimumHeight(barHeight);
-    typesPopUp_->setAccessibleName(tr("Show"));
+    nameForScreenReaders(typesPopUp_, tr("Show"));
     typesPopUp_->setToolTip(tr("Choose what the colours of the output show, after a multi-parse"));
 
     addSpacer(leadingInset);
@@ -32,6 +33,14 @@ DocumentToolBar::DocumentToolBar(const TextActions& actions, QWidget* parent)
     addSeparator();
     addButton(actions.listWords);
     addButton(actions.saveList);
+}
+
+// What Qt itself tells of a box is the item that it shows, on Linux; its name it leaves to a label.
+void DocumentToolBar::nameForScreenReaders(QComboBox* box, const QString& name) {
+    box->setAccessibleName(name);
+    auto* label = new QLabel(name, this);
+    label->setBuddy(box);
+    label->hide();
 }
 
 void DocumentToolBar::addSpacer(int width) {

@@ -18,6 +18,7 @@ public:
     [[nodiscard]] PopUpBox* typesPopUp() const { return typesPopUp_; }
 
 private:
+    void nameForScreenReaders(QComboBox* box, const QString& name);
     void addSpacer(int width);
     void addButton(QAction* action);
 

@@ -140,10 +140,9 @@ TEST_F(Saving, leavesAloneAFileThatAnotherWindowShows) {
     opened(other);
     DocumentWindow& window = desktop.typedInto("The cat");
     window.textActions().parse->trigger();
-    for (const QString& target : {other, name, link}) {
-        desktop.questions.target = SaveTarget{target, std::string(plainTextType)};
-        emit window.fileMenu()->saveAsRequested();
-    }
+    for (const QString& target : {other, name, link})
+        desktop.questions.targetsInTurn.emplace_back(SaveTarget{target, std::string(plainTextType)});
+    emit window.fileMenu()->saveAsRequested();
     ASSERT_EQ(desktop.questions.failures.size(), 3);
     EXPECT_EQ(desktop.questions.failures.at(0),
               "other.txt: A file of that name is open in another window. Close that window first, or take "
@@ -151,6 +150,23 @@ TEST_F(Saving, leavesAloneAFileThatAnotherWindowShows) {
     EXPECT_EQ(contentOf(other), "The dog.");
     EXPECT_EQ(window.displayName(), "Untitled");
     EXPECT_TRUE(window.isEdited());
+}
+
+TEST_F(Saving, asksForAnotherNameWhereAnotherWindowShowsTheFile) {
+    const QString other = desktop.file("other.txt", "The dog.");
+    const QString path = desktop.folder() + "/cat.txt";
+    opened(other);
+    DocumentWindow& window = desktop.typedInto("The cat");
+    window.textActions().parse->trigger();
+    desktop.questions.targetsInTurn = {SaveTarget{other, std::string(plainTextType)},
+                                       SaveTarget{path, std::string(plainTextType)}};
+    emit window.fileMenu()->saveAsRequested();
+    EXPECT_EQ(desktop.questions.asked, (QStringList{"where?", "where?"}));
+    EXPECT_EQ(desktop.questions.proposal->path, other); // the dialog comes again as it was left
+    EXPECT_EQ(desktop.questions.proposal->type, plainTextType);
+    EXPECT_EQ(contentOf(path), "The cat");
+    EXPECT_EQ(contentOf(other), "The dog.");
+    EXPECT_FALSE(window.isEdited());
 }
 
 TEST_F(Saving, overwritesTheFileOfAWindowThatIsClosed) {

@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QImage>
 #include <QScrollBar>
+#include <QTest>
 #include <QTextBlock>
 
 #include <gtest/gtest.h>
@@ -44,6 +45,21 @@ protected:
         return rows;
     }
 
+    void giveKeyboard() {
+        QApplication::setActiveWindow(&frame);
+        key->setFocus();
+        ASSERT_TRUE(key->hasFocus());
+    }
+
+    // The block that is tinted beside its swatch; -1 for none.
+    int tintedLine() {
+        const QImage image = shown();
+        for (QTextBlock block = key->document()->begin(); block.isValid(); block = block.next())
+            if (image.pixelColor(16, qRound(middleOfLine(block.blockNumber()))) == tint)
+                return block.blockNumber();
+        return -1;
+    }
+
     double middleOfLine(int block) {
         QTextCursor cursor(key->document()->findBlockByNumber(block));
         return key->cursorRect(cursor).center().y();
@@ -61,6 +77,7 @@ protected:
         return lines;
     }
 
+    const QColor tint = surfacesOf(Appearance::light).selection;
     KeyTextEdit* key;
     PaneFrame frame;
 };
@@ -196,6 +213,62 @@ TEST_F(Key, letsLongWordsReachTheirOwnMargin) {
             if (image.pixelColor(x, y).lightness() < 100) last = x;
     EXPECT_GT(last, image.width() - 8 - 14);
     EXPECT_LT(last, image.width() - 7);
+}
+
+TEST_F(Key, tintsTheLineThatTheKeyboardIsOn) {
+    key->replaceText(AttributedText(nineLines, Colour::text));
+    EXPECT_EQ(tintedLine(), -1);
+    giveKeyboard();
+    EXPECT_EQ(tintedLine(), 0);
+    QTest::keyClick(key, Qt::Key_Down);
+    EXPECT_EQ(tintedLine(), 2);
+    QTest::keyClick(key, Qt::Key_Up);
+    QTest::keyClick(key, Qt::Key_Up);
+    EXPECT_EQ(tintedLine(), 0);
+    key->clearFocus();
+    EXPECT_EQ(tintedLine(), -1);
+}
+
+TEST_F(Key, tintsTheLineThatWasClicked) {
+    key->replaceText(AttributedText(nineLines, Colour::text));
+    giveKeyboard();
+    const QPoint place = key->cursorRect(QTextCursor(key->document()->findBlockByNumber(6))).center();
+    QTest::mouseClick(key->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(tintedLine(), 6);
+}
+
+TEST_F(Key, stepsOverLinesWithoutASwatch) {
+    key->replaceText(AttributedText("one\n\n\n\nthree\n\n", Colour::text));
+    giveKeyboard();
+    QTest::keyClick(key, Qt::Key_Down);
+    EXPECT_EQ(tintedLine(), 4);
+    QTest::keyClick(key, Qt::Key_Down);
+    EXPECT_EQ(tintedLine(), 4);
+}
+
+TEST_F(Key, tintsAWrappedLineAsAWhole) {
+    key->replaceText(AttributedText("Person,Organ,Place\n\nverb", Colour::text));
+    giveKeyboard();
+    ASSERT_EQ(linesOf(0).size(), 2);
+    const QTextLine last = key->document()->begin().layout()->lineAt(1);
+    EXPECT_EQ(shown().pixelColor(16, static_cast<int>(last.y() + last.height() / 2)), tint);
+}
+
+TEST_F(Key, showsASelectionInThePlaceOfItsTint) {
+    key->replaceText(AttributedText(nineLines, Colour::text));
+    giveKeyboard();
+    QTest::keyClick(key, Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_TRUE(key->textCursor().hasSelection());
+    EXPECT_EQ(tintedLine(), -1);
+}
+
+TEST_F(Key, hasNoCaret) {
+    key->replaceText(AttributedText(nineLines, Colour::text));
+    giveKeyboard();
+    const QImage image = shown();
+    const QColor caret = surfacesOf(Appearance::light).focus;
+    for (int x = 0; x < image.width(); ++x)
+        EXPECT_NE(image.pixelColor(x, qRound(middleOfLine(0))), caret) << x;
 }
 
 TEST_F(Key, isSetThroughTheTextField) {

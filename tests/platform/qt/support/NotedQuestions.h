@@ -38,7 +38,10 @@ public:
     std::optional<SaveTarget> chooseTarget(QWidget& /*window*/, const SaveTarget& offered) override {
         asked.append("where?");
         proposal = offered;
-        return target;
+        if (targetsInTurn.empty()) return target;
+        const auto next = targetsInTurn.front();
+        targetsInTurn.pop_front();
+        return next;
     }
     void tellNotSaved(QWidget& /*window*/, const QString& name, const QString& reason) override {
         failures.append(name + ": " + reason);
@@ -49,6 +52,7 @@ public:
     OtherTextAnswer otherText = OtherTextAnswer::cancel;
     bool confirms = false;
     std::optional<SaveTarget> target;
+    std::deque<std::optional<SaveTarget>> targetsInTurn; ///< before `target`, one for each question
     std::optional<SaveTarget> proposal;
     QStringList asked;
     QStringList failures;

@@ -3,6 +3,7 @@
 #include "platform/qt/windows/PopUpBox.h"
 #include "tests/platform/qt/support/DesktopUnderTest.h"
 
+#include <QAccessible>
 #include <QMenuBar>
 #include <QStandardItemModel>
 #include <QStyle>
@@ -119,8 +120,17 @@ TEST_F(DocumentWindowTest, givesAllFiveControlsANameAndAToolTipAndTheKeyboard) {
         EXPECT_EQ(button->focusPolicy(), Qt::TabFocus);
     }
     EXPECT_EQ(names, (QStringList{"Parse", "Multi-parse", "List words", "Save list…"}));
-    EXPECT_FALSE(window.toolBar()->typesPopUp()->accessibleName().isEmpty());
     EXPECT_FALSE(window.toolBar()->typesPopUp()->toolTip().isEmpty());
+}
+
+TEST_F(DocumentWindowTest, tellsScreenReadersWhatThePopUpIsForAndWhatItShows) {
+    desktop.documents.newDocument();
+    QAccessibleInterface* box =
+        QAccessible::queryAccessibleInterface(desktop.window().toolBar()->typesPopUp());
+    const auto labels = box->relations(QAccessible::Label);
+    ASSERT_EQ(labels.size(), 1);
+    EXPECT_EQ(labels.first().first->text(QAccessible::Name), "Show");
+    EXPECT_EQ(box->text(QAccessible::Value), "Types");
 }
 
 TEST_F(DocumentWindowTest, saysInTheStatusLineHowManyWordsWereParsed) {

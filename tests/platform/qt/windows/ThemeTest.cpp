@@ -8,6 +8,7 @@
 #include <QFont>
 #include <QSignalSpy>
 #include <QStyle>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +79,36 @@ TEST_F(ThemeTest, keepsAChoiceAgainstTheDesktop) {
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(0xF2F3F5));
     theme.setChoice(AppearanceChoice::system);
     EXPECT_EQ(theme.appearance(), Appearance::dark);
+}
+
+TEST_F(ThemeTest, takesWhatTheDesktopSaysBeforeItsPalette) {
+    QApplication::setPalette(desktopPalette(Qt::white));
+    Theme theme(*qApp, AppearanceChoice::system);
+    theme.setDesktopPreference(Appearance::dark);
+    EXPECT_EQ(theme.appearance(), Appearance::dark);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(0x15181C));
+    theme.setDesktopPreference(std::nullopt);
+    EXPECT_EQ(theme.appearance(), Appearance::light);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
+}
+
+TEST_F(ThemeTest, keepsAChoiceAgainstWhatTheDesktopSays) {
+    Theme theme(*qApp, AppearanceChoice::light);
+    theme.setDesktopPreference(Appearance::dark);
+    EXPECT_EQ(theme.appearance(), Appearance::light);
+    theme.setChoice(AppearanceChoice::system);
+    EXPECT_EQ(theme.appearance(), Appearance::dark);
+}
+
+TEST_F(ThemeTest, looksAtTheDesktopAgainWhenAWindowLearnsOfAnotherTheme) {
+    QApplication::setPalette(desktopPalette(Qt::black));
+    const Theme theme(*qApp, AppearanceChoice::system);
+    ASSERT_EQ(theme.appearance(), Appearance::dark);
+    QWidget window;
+    QEvent change(QEvent::ThemeChange);
+    QApplication::sendEvent(&window, &change);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(theme.appearance(), Appearance::light);
 }
 
 TEST_F(ThemeTest, tellsOfAChoice) {

@@ -1,6 +1,7 @@
 #include "platform/qt/windows/interfaceLanguage.h"
 
 #include "platform/qt/windows/ApplicationActions.h"
+#include "platform/qt/windows/wordDetailsText.h"
 #include "tests/platform/qt/support/DesktopUnderTest.h"
 
 #include <QDir>
@@ -107,6 +108,28 @@ TEST_F(Translations, leaveTextsAloneThatAreFoundByTheirWords) {
     window.panes()->input()->insertPlainText("The cat sat.");
     window.textActions().parse->trigger();
     EXPECT_TRUE(window.panes()->key()->text().starts_with("particle\n\nverb"));
+}
+
+// A script and a language have one form of their name, which agrees with what is before it.
+TEST_F(Translations, tellOfAWordInFormsThatAgree) {
+    const WordDetails word{.type = "Noun", .lemma = "chat", .language = "fr", .script = "Cyrl"};
+    openIn("es_ES");
+    EXPECT_EQ(textOf(word), "sustantivo\nLema: chat\nIdioma: francés\nSistema de escritura: cirílico");
+    openIn("fr_FR");
+    EXPECT_EQ(textOf(word),
+              "nom\nLemme\u202f: chat\nLangue\u202f: français\nSystème d’écriture\u202f: cyrillique");
+    openIn("de_DE");
+    EXPECT_EQ(textOf(word), "Substantiv\nLemma: chat\nSprache: Französisch\nSchrift: Kyrillisch");
+}
+
+TEST_F(Translations, countWordsInFormsThatAgree) {
+    for (const auto& [locale, parsed] : {std::pair{"fr_FR", "3 mots, texte analysé"},
+                                         {"es_ES", "3 palabras, texto analizado"},
+                                         {"de_DE", "3 Wörter, analysiert"}}) {
+        const DocumentWindow& window = openIn(locale);
+        window.statusLine()->showParsed(3);
+        EXPECT_EQ(window.statusLine()->text(), parsed);
+    }
 }
 
 TEST_P(Translations, areWholeForEveryText) {
