@@ -1,8 +1,5 @@
 #include "base/AttributedText.h"
 
-#include "base/fatalError.h"
-
-#include <algorithm>
 #include <utility>
 
 namespace lexiform {
@@ -24,14 +21,6 @@ void AttributedText::append(const AttributedText& other) {
     string_.append(other.string_);
     for (const Run& run : added)
         extend(base + run.end, run.colour);
-}
-
-Colour AttributedText::colourAt(std::size_t offset) const {
-    if (offset >= string_.size()) fatalError("a colour was asked for past the end of a text");
-    const auto run =
-        std::upper_bound(runs_.begin(), runs_.end(), offset,
-                         [](std::size_t at, const Run& candidate) { return at < candidate.end; });
-    return run->colour;
 }
 
 void AttributedText::extend(std::size_t end, Colour colour) {

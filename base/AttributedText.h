@@ -34,8 +34,6 @@ public:
     /// In text order; empty for an empty text.
     [[nodiscard]] const std::vector<Run>& runs() const { return runs_; }
     [[nodiscard]] bool empty() const { return string_.empty(); }
-    /// The colour of the byte at `offset`; an offset at or past the end stops the program.
-    [[nodiscard]] Colour colourAt(std::size_t offset) const;
 
     bool operator==(const AttributedText&) const = default;
 

@@ -6,7 +6,6 @@
 #include "platform/linguistics/LinguisticTagger.h"
 #include "platform/linguistics/modelFolders.h"
 #include "tools/lexiform-cli/HeadlessWindow.h"
-#include "tools/lexiform-cli/InputText.h"
 
 #include <sys/resource.h>
 
@@ -17,6 +16,7 @@
 #include <ctime>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -74,17 +74,14 @@ int main(int argc, char** argv) {
         std::fputs("AnalysisBenchmark TEXT [RUNS [lexical]]\n", stderr);
         return 2;
     }
-    const auto text = cli::readText(argv[1]);
-    if (!text.succeeded()) {
-        std::fprintf(stderr, "%s\n", text.fault().message.c_str());
-        return 1;
-    }
+    std::ifstream input(argv[1], std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(input), {}};
     const int runs = argc > 2 ? std::atoi(argv[2]) : 3;
     const auto models = std::make_shared<const linguistics::ModelStore>(modelFolders());
     cli::HeadlessWindow window(linguisticTaggers(std::make_shared<const linguistics::Engine>(models)));
     ViewController& controller = window.controller();
-    print("text", static_cast<double>(text.value().size()) / 1e6, "MB");
-    window.setText(text.value());
+    print("text", static_cast<double>(text.size()) / 1e6, "MB");
+    window.setText(text);
 
     print("lexical pass", bestSeconds(runs, [&] { controller.parseText(); }), "s");
     print("list of words", bestSeconds(runs, [&] { controller.listConcButton(); }), "s");

@@ -32,6 +32,14 @@ INSIDE = {
     "platform/qt/theme": (),
     "platform/qt/panes": ("platform/qt/theme",),
     "platform/qt/adapters": ("platform/qt/panes", "platform/qt/theme"),
+    "platform/qt/windows": ("platform/qt/adapters", "platform/qt/panes", "platform/qt/theme"),
+    "platform/qt/documents": (
+        "platform/qt/windows", "platform/qt/adapters", "platform/qt/panes", "platform/qt/theme",
+    ),
+    "platform/qt/shell": ("platform/qt/windows",),
+    "platform/qt/sidewindows": (
+        "platform/qt/windows", "platform/qt/adapters", "platform/qt/panes", "platform/qt/theme",
+    ),
     "linguistics/text": (),
     "linguistics/file": ("linguistics/text",),
     "linguistics/segmentation": ("linguistics/text", "linguistics/file"),
@@ -80,8 +88,8 @@ INSIDE = {
     "tools/train/evaluation": ("tools/train/corpora",),
     "tools/train/commands": (
         "tools/train/corpora", "tools/train/lexicon", "tools/train/sources", "tools/train/file",
-        "tools/train/chain", "tools/train/silver", "tools/train/network", "tools/train/segmentation", "tools/train/lemmas", "tools/train/language",
-        "tools/train/evaluation",
+        "tools/train/chain", "tools/train/silver", "tools/train/network", "tools/train/segmentation",
+        "tools/train/lemmas", "tools/train/language", "tools/train/evaluation",
     ),
     "tools/train": (),
 }

@@ -48,18 +48,5 @@ TEST(AttributedText, canBeAppendedToItself) {
               (Runs{{1, Colour::brown}, {2, Colour::blue}, {3, Colour::brown}, {4, Colour::blue}}));
 }
 
-TEST(AttributedText, tellsTheColourOfEveryByte) {
-    AttributedText text("été", Colour::blue); // five bytes
-    text.append("!", Colour::gray);
-    EXPECT_EQ(text.colourAt(0), Colour::blue);
-    EXPECT_EQ(text.colourAt(4), Colour::blue);
-    EXPECT_EQ(text.colourAt(5), Colour::gray);
-}
-
-TEST(AttributedTextDeathTest, stopsTheProgramForAColourPastTheEnd) {
-    const AttributedText text("a", Colour::blue);
-    EXPECT_DEATH((void)text.colourAt(1), "past the end");
-}
-
 } // namespace
 } // namespace lexiform

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Outcome.h"
-#include "tools/lexiform-cli/InputText.h"
 #include "tools/lexiform-cli/TextBlock.h"
+#include "tools/lexiform-cli/inputNames.h"
 
 #include <cstdio>
 #include <memory>

@@ -1,8 +1,8 @@
 #include "tools/lexiform-cli/LanguageCommand.h"
 
-#include "tools/lexiform-cli/InputText.h"
 #include "tools/lexiform-cli/LanguageWriter.h"
 #include "tools/lexiform-cli/Sink.h"
+#include "tools/lexiform-cli/inputNames.h"
 #include "tools/lexiform-cli/writeTexts.h"
 
 namespace lexiform::cli {

@@ -2,9 +2,9 @@
 
 #include "base/present.h"
 #include "tools/lexiform-cli/AnsiWriter.h"
-#include "tools/lexiform-cli/InputText.h"
 #include "tools/lexiform-cli/Sink.h"
 #include "tools/lexiform-cli/TokenWriter.h"
+#include "tools/lexiform-cli/inputNames.h"
 #include "tools/lexiform-cli/writeTexts.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Outcome.h"
-#include "tools/lexiform-cli/InputText.h"
+#include "tools/lexiform-cli/inputNames.h"
 
 #include <string>
 #include <string_view>

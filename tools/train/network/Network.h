@@ -82,8 +82,6 @@ public:
     Parameters& parameters() { return parameters_; }
 
 private:
-    struct Input; // the matrix that a layer reads, with its mask
-
     void place(Batch batch);
     void seeWords(Batch batch, std::span<const SeenForm> forms, const Noise& noise, std::mt19937* random);
     void forward(Batch batch, std::span<const SeenForm> forms, const Noise& noise, std::mt19937* random);

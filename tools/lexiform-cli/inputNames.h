@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/Outcome.h"
-
 #include <string>
 #include <vector>
 
@@ -17,9 +15,5 @@ inline constexpr const char* standardInput = "-";
 
 /// The names of the inputs of a command: standard input when a person named none.
 [[nodiscard]] std::vector<std::string> inputNames(const std::vector<std::string>& named);
-
-/// The whole text of a file, or of standard input for "-". A file that cannot be read, a folder, and
-/// bytes that are not UTF-8 are faults; the last names the offset of the first such byte.
-[[nodiscard]] Outcome<std::string, InputFault> readText(const std::string& name);
 
 } // namespace lexiform::cli
