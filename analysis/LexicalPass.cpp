@@ -10,6 +10,7 @@ void ViewController::parseText() {
     totWordC = 0;
     const std::string text = present(intextTextbox).plainText();
     AttributedText output;
+    output.reserve(text.size());
 
     const std::array schemes = {NLTagSchemeNameTypeOrLexicalClass};
     const std::unique_ptr<Tagger> tagger = makeTagger_(schemes);

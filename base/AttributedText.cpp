@@ -8,6 +8,13 @@ AttributedText::AttributedText(std::string text, Colour colour) : string_(std::m
     if (!string_.empty()) runs_.push_back({string_.size(), colour});
 }
 
+void AttributedText::reserve(std::size_t bytes) {
+    // A word and the space behind it are hardly ever shorter; room that is never written takes no memory.
+    constexpr std::size_t bytesOfRun = 2;
+    string_.reserve(bytes);
+    runs_.reserve(bytes / bytesOfRun);
+}
+
 void AttributedText::append(std::string_view piece, Colour colour) {
     if (piece.empty()) return;
     string_.append(piece);

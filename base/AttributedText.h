@@ -25,6 +25,8 @@ public:
     /// The whole of `text` in one colour.
     AttributedText(std::string text, Colour colour);
 
+    /// Makes room for a text of `bytes` in the colours of its words.
+    void reserve(std::size_t bytes);
     /// Appends `piece` in one colour; amortised constant time per byte. An empty piece changes nothing.
     void append(std::string_view piece, Colour colour);
     /// Appends a text with its colours.

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "base/StringHash.h"
+#include "base/StringIndex.h"
 
 #include <cstddef>
-#include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <vector>
 
 namespace lexiform {
 
@@ -15,27 +13,19 @@ namespace lexiform {
 /// distinct words than tokens.
 class StringPool {
 public:
-    using Number = std::uint32_t;
-
-    StringPool() = default;
-    // A copy's table would point into the original.
-    StringPool(const StringPool&) = delete;
-    StringPool& operator=(const StringPool&) = delete;
-    StringPool(StringPool&&) = default;
-    StringPool& operator=(StringPool&&) = default;
-    ~StringPool() = default;
+    using Number = StringIndex::Place;
 
     /// The number of `string`, compared exactly; numbers count from 0 in order of first appearance.
     [[nodiscard]] Number numberOf(std::string_view string);
     /// A number below `size()`; the string lasts until the pool is cleared.
-    [[nodiscard]] const std::string& operator[](Number number) const { return *strings_[number]; }
+    [[nodiscard]] const std::string& operator[](Number number) const { return strings_[number]; }
 
     [[nodiscard]] std::size_t size() const { return strings_.size(); }
     void clear();
 
 private:
-    std::unordered_map<std::string, Number, StringHash, std::equal_to<>> numbers_;
-    std::vector<const std::string*> strings_; // the keys of numbers_, which stay where they are
+    StringIndex index_;
+    std::deque<std::string> strings_; // where they stay
 };
 
 } // namespace lexiform

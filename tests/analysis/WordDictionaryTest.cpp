@@ -34,10 +34,25 @@ TEST(CountWord, keepsWordsApartThatDifferInTheirScalarsAlone) {
     EXPECT_EQ(dictionary.size(), 2U);
 }
 
+TEST(WordDictionary, isEqualToOneWithTheSameCountsInAnyOrder) {
+    const WordDictionary one{{"cat", 1}, {"dog", 2}};
+    EXPECT_EQ(one, (WordDictionary{{"dog", 2}, {"cat", 1}}));
+    EXPECT_NE(one, (WordDictionary{{"dog", 2}, {"cat", 2}}));
+    EXPECT_NE(one, (WordDictionary{{"dog", 2}, {"cow", 1}}));
+    EXPECT_NE(one, (WordDictionary{{"dog", 2}}));
+}
+
+TEST(WordDictionary, holdsNoWordOnceItIsCleared) {
+    WordDictionary dictionary{{"cat", 7}};
+    dictionary.clear();
+    EXPECT_TRUE(dictionary.empty());
+    EXPECT_EQ(dictionary["cat"], 0);
+}
+
 TEST(CountWord, countsUpToTheLargestValue) {
     WordDictionary dictionary{{"cat", std::numeric_limits<std::int64_t>::max() - 1}};
     countWord(dictionary, "cat");
-    EXPECT_EQ(dictionary.at("cat"), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(dictionary["cat"], std::numeric_limits<std::int64_t>::max());
 }
 
 TEST(CountWordDeathTest, stopsTheProgramInsteadOfWrappingAround) {
