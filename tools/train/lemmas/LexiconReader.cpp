@@ -1,6 +1,7 @@
 #include "tools/train/lemmas/LexiconReader.h"
 
 #include "tools/train/corpora/Lines.h"
+#include "tools/train/lemmas/IndonesianVoices.h"
 #include "tools/train/lemmas/JsonPaths.h"
 #include "tools/train/lemmas/TurkishParadigms.h"
 
@@ -110,9 +111,24 @@ void LexiconReader::readSpelling(const std::string& name, Tagging tagging) {
     });
 }
 
+void LexiconReader::readWord(std::string_view form, std::string_view lemma, UniversalPos pos) {
+    add(form, lemma, pos);
+    settled_.emplace(form, pos);
+}
+
+void LexiconReader::addIndonesianPassives() {
+    const std::size_t actives = lines_.size();
+    for (std::size_t i = 0; i < actives; ++i) {
+        if (lines_[i].pos != UniversalPos::VERB) continue;
+        const auto passive = indonesianPassive(lines_[i].form, lines_[i].lemma);
+        if (passive) add(*passive, std::string(lines_[i].lemma), UniversalPos::VERB);
+    }
+}
+
 void LexiconReader::add(std::string_view form, std::string_view lemma, UniversalPos pos) {
     // A phrase is no token, and no lemma is empty.
     if (form.empty() || lemma.empty() || form.find(' ') != std::string_view::npos) return;
+    if (settled_.contains({std::string(form), pos})) return;
     if (!lines_.empty() && lines_.back().form == form && lines_.back().lemma == lemma &&
         lines_.back().pos == pos)
         return;

@@ -1,4 +1,5 @@
 #include "tools/train/lemmas/AffixDictionary.h"
+#include "tools/train/lemmas/IndonesianVoices.h"
 #include "tools/train/lemmas/JsonPaths.h"
 #include "tools/train/lemmas/TurkishParadigms.h"
 
@@ -87,6 +88,27 @@ TEST(TurkishParadigmsTest, conjugates) {
     for (const char* form : {"başladı", "başlıyor", "başlayacak", "başladığını"})
         EXPECT_THAT(verbForms("başla"), Contains(form));
     EXPECT_THAT(verbForms("git"), Contains("gidiyor"));
+}
+
+TEST(IndonesianVoicesTest, givesBackTheLetterThatAPrefixSwallowed) {
+    EXPECT_EQ(indonesianPassive("memilih", "pilih"), "dipilih");
+    EXPECT_EQ(indonesianPassive("menulis", "tulis"), "ditulis");
+    EXPECT_EQ(indonesianPassive("menyewa", "sewa"), "disewa");
+    EXPECT_EQ(indonesianPassive("mengirimkan", "kirim"), "dikirimkan");
+}
+
+TEST(IndonesianVoicesTest, keepsWhatStandsAroundTheRoot) {
+    EXPECT_EQ(indonesianPassive("menggunakan", "guna"), "digunakan");
+    EXPECT_EQ(indonesianPassive("mengobati", "obat"), "diobati");
+    EXPECT_EQ(indonesianPassive("memperbaiki", "baik"), "diperbaiki");
+    EXPECT_EQ(indonesianPassive("mengecat", "cat"), "dicat");
+    EXPECT_EQ(indonesianPassive("melihat", "lihat"), "dilihat");
+}
+
+TEST(IndonesianVoicesTest, givesNothingForWordsThatAreMadeOtherwise) {
+    EXPECT_EQ(indonesianPassive("berjalan", "jalan"), std::nullopt);
+    EXPECT_EQ(indonesianPassive("meja", "meja"), std::nullopt);
+    EXPECT_EQ(indonesianPassive("", ""), std::nullopt);
 }
 
 } // namespace
