@@ -10,6 +10,7 @@
 #include "tools/train/lemmas/MarkedWords.h"
 #include "tools/train/lemmas/RuleFinder.h"
 #include "tools/train/lemmas/RuleNumbers.h"
+#include "tools/train/lemmas/wholeWords.h"
 
 #include <algorithm>
 #include <array>
@@ -28,7 +29,7 @@ constexpr std::size_t roomForWeights(std::string_view language) {
                                                         "pt", "ru", "tr", "fi", "id"};
     return std::find(roomy.begin(), roomy.end(), language) != roomy.end() ? 60'000 : 40'000;
 }
-constexpr std::size_t roomForCasings = 4'000;
+constexpr std::size_t roomForCasings = 4'000, roomForMending = 3'000;
 
 constexpr int rounds = 8, roundsAfterPruning = 6;
 
@@ -62,17 +63,21 @@ public:
 
     void learnRules(const std::vector<LemmaExample>& examples, const std::vector<LemmaRule>& rules) {
         log_ << language_ << ": " << examples.size() << " examples\n";
-        LemmaPerceptron perceptron(firstRuleLabel + rules.size(), firstRuleLabel,
-                                   roomForWeights(language_) - roomForCasings,
-                                   [&](std::uint32_t label, std::uint32_t size) {
-                                       return rules[label - firstRuleLabel].fits(size);
-                                   });
+        const std::size_t room = roomForWeights(language_) - roomForCasings;
+        const LemmaPerceptron::Fits fits = [&](std::uint32_t label, std::uint32_t size) {
+            return rules[label - firstRuleLabel].fits(size);
+        };
+        LemmaPerceptron perceptron(firstRuleLabel + rules.size(), firstRuleLabel, room - roomForMending,
+                                   fits);
         perceptron.learn(examples, rounds);
         perceptron.prune();
         const std::size_t mistakes = perceptron.mistakes();
         perceptron.learn(examples, roundsAfterPruning);
         log_ << language_ << ": " << mistakes << " mistakes, " << perceptron.mistakes() << " after pruning\n";
         take(perceptron);
+        const std::size_t learnt = weights_.size();
+        mendWholeWords(examples, fits, firstRuleLabel, room - std::min(room, learnt), weights_);
+        log_ << language_ << ": " << weights_.size() - learnt << " words mended\n";
     }
 
     void mark(const MarkedWords& marked, CaseRules caseRules) {
