@@ -72,7 +72,7 @@ void readIndonesian(LexiconReader& reader, const fs::path&) {
 }
 
 void readTurkish(LexiconReader& reader, const fs::path& corpora) {
-    reader.readTurkishRoots("master-dictionary.dict", readFrequentWords("tr", corpora));
+    reader.readTurkish("master-dictionary.dict", readFrequentWords("tr", corpora));
 }
 
 void readGerman(LexiconReader& reader, const fs::path&) {

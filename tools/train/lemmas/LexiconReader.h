@@ -35,8 +35,8 @@ public:
     void readFullForms(const std::string& name, const TagNames& tags);
     /// Lines of lemma, form and features; the lists in use hold verbs.
     void readParadigms(const std::string& name);
-    /// Roots of Turkish, one a line, verbs in the infinitive, with all their forms that are among `words`.
-    void readTurkishRoots(const std::string& name, const std::vector<std::string>& words);
+    /// A dictionary of Turkish roots, with all their forms that are among `words`.
+    void readTurkish(const std::string& name, const std::vector<std::string>& words);
 
     /// Parts of speech that a form of a spelling dictionary may have.
     using Tagging = std::vector<linguistics::UniversalPos> (*)(const AffixedForm&);
