@@ -21,12 +21,15 @@ void LemmaCounts::add(const Corpus& corpus, double weight) {
     }
 }
 
-void LemmaCounts::addUnchanged(const Corpus& corpus, const std::function<bool(const WordKey&)>& isKnown) {
+void LemmaCounts::addByLexicon(const Corpus& corpus, const Lexicon& lexicon) {
     for (const GoldSentence& sentence : corpus)
         for (const GoldToken& token : sentence.tokens) {
             if (!token.pos) continue;
-            if (!isKnown({foldedForm(token.form, caseRules_), *token.pos}))
-                rules_[{token.form, *token.pos}][LemmaRule{}] += 1;
+            const auto known = lexicon.find({foldedForm(token.form, caseRules_), *token.pos});
+            const std::optional<FoundRule> found =
+                known == lexicon.end() ? FoundRule{}
+                                       : ruleBetween(token.form, known->second, *token.pos, caseRules_);
+            if (found) rules_[{token.form, *token.pos}][found->rule] += 1;
         }
 }
 

@@ -5,7 +5,6 @@
 #include "tools/train/corpora/Corpus.h"
 
 #include <compare>
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -47,9 +46,12 @@ public:
     /// Counts every word of `corpus` that has a tag and a lemma; each counts `weight`.
     void add(const Corpus& corpus, double weight);
 
-    /// Counts the words of `corpus`, which has no lemmas, as their own lemmas, but for those that `isKnown`
-    /// says a lexicon has.
-    void addUnchanged(const Corpus& corpus, const std::function<bool(const WordKey&)>& isKnown);
+    /// Lemmas by word in lower case.
+    using Lexicon = std::map<WordKey, std::string>;
+
+    /// Counts the words of `corpus`, which has no lemmas, with their lemmas in `lexicon`; a word that it does
+    /// not have is its own lemma.
+    void addByLexicon(const Corpus& corpus, const Lexicon& lexicon);
 
     [[nodiscard]] linguistics::CaseRules caseRules() const { return caseRules_; }
     [[nodiscard]] const std::map<WordKey, ChoiceCounts<linguistics::LemmaRule>>& rules() const {

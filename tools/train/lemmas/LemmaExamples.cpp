@@ -82,6 +82,7 @@ private:
         const auto neighbour = [&](std::size_t place) {
             return place < words.size() ? lemmaNeighbourOf(words[place], caseRules_) : LemmaNeighbour{};
         };
+        examples_.back().hasNeighbours = true;
         forEachNeighbourFeature(traitsOf(words[at].form), words[at].pos, neighbour(at - 1), neighbour(at + 1),
                                 [&](std::uint64_t feature) { examples_.back().features.push_back(feature); });
     }

@@ -55,17 +55,24 @@ void readItalian(LexiconReader& reader, const fs::path&) {
     reader.readTables("it_lemma_lookup_");
 }
 
+// The list has one root for each form; treebanks give it to verbs and nouns only.
 void readIndonesian(LexiconReader& reader, const fs::path&) {
-    reader.readTable("id_lemma_lookup.json",
-                     {UniversalPos::VERB, UniversalPos::NOUN, UniversalPos::ADJ, UniversalPos::ADV});
-    // Pronouns that lean on the word before, and their full forms.
+    // Pronouns that lean on the word before with their full forms, and words that the list takes apart.
     for (const auto& [form, lemma] :
          {std::pair{"nya", "dia"}, std::pair{"ia", "dia"}, std::pair{"ku", "aku"}, std::pair{"mu", "kamu"}})
         reader.readWord(form, lemma, UniversalPos::PRON);
+    for (const auto& [form, lemma] :
+         {std::pair{"sebuah", "buah"}, std::pair{"seorang", "orang"}, std::pair{"seekor", "ekor"}})
+        reader.readWord(form, lemma, UniversalPos::DET);
+    reader.readWord("tapi", "tetapi", UniversalPos::CCONJ);
+    reader.readWord("merupakan", "merupakan", UniversalPos::VERB);
+    reader.readWord("terjadi", "terjadi", UniversalPos::VERB);
+    reader.readTable("id_lemma_lookup.json", {UniversalPos::VERB, UniversalPos::NOUN});
+    reader.addIndonesianPassives();
 }
 
 void readTurkish(LexiconReader& reader, const fs::path& corpora) {
-    reader.readTurkishRoots("master-dictionary.dict", readFrequentWords("tr", corpora));
+    reader.readTurkish("master-dictionary.dict", readFrequentWords("tr", corpora));
 }
 
 void readGerman(LexiconReader& reader, const fs::path&) {

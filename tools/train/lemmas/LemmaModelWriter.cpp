@@ -44,8 +44,13 @@ std::vector<std::uint8_t> bytesOf(std::span<const LemmaRule> rules) {
 }
 
 int rootOf(double weight) {
-    const int root = static_cast<int>(std::lround(std::sqrt(std::abs(weight))));
+    const int root =
+        std::min(static_cast<int>(std::lround(std::sqrt(std::abs(weight)))), LemmaWeight::largestRoot);
     return weight < 0 ? -root : root;
+}
+
+int squareOf(int root) {
+    return root < 0 ? -root * root : root * root;
 }
 
 } // namespace
@@ -55,6 +60,17 @@ double scaleOf(std::span<const LearntWeight> weights) {
     for (const LearntWeight& weight : weights)
         most = std::max(most, std::abs(weight.value));
     return most == 0 ? 1 : LemmaWeight::largest / most;
+}
+
+int roundedWeight(double weight) {
+    return squareOf(rootOf(weight));
+}
+
+int leastRoundedTo(int weight) {
+    int root = -LemmaWeight::largestRoot;
+    while (root < LemmaWeight::largestRoot && squareOf(root) < weight)
+        ++root;
+    return squareOf(root);
 }
 
 void writeLemmas(std::span<const LemmaRule> rules, std::span<const LearntWeight> weights,

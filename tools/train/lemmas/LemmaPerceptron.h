@@ -15,6 +15,7 @@ struct LemmaExample {
     std::uint32_t gold = 0;
     std::uint32_t wordSize = 0; ///< characters, which decide what rules fit
     std::int32_t weight = 1;    ///< at least 1
+    bool hasNeighbours = false; ///< whether some features are of the words beside it
 };
 
 /// A feature's weight for a label.

@@ -1,8 +1,9 @@
 #include "tools/train/lemmas/LexiconReader.h"
 
 #include "tools/train/corpora/Lines.h"
+#include "tools/train/lemmas/IndonesianVoices.h"
 #include "tools/train/lemmas/JsonPaths.h"
-#include "tools/train/lemmas/TurkishParadigms.h"
+#include "tools/train/lemmas/TurkishRoots.h"
 
 #include <fstream>
 #include <iterator>
@@ -81,26 +82,23 @@ void LexiconReader::readParadigms(const std::string& name) {
     }
 }
 
-void LexiconReader::readTurkishRoots(const std::string& name, const std::vector<std::string>& words) {
+void LexiconReader::readTurkish(const std::string& name, const std::vector<std::string>& words) {
     // Schools of annotation differ on whether a participle or verbal noun is still a verb.
     static const std::vector verbal = {UniversalPos::VERB, UniversalPos::NOUN, UniversalPos::ADV};
     static const std::vector nominal = {UniversalPos::NOUN, UniversalPos::ADJ};
     const std::unordered_set<std::string> used(words.begin(), words.end());
-    std::ifstream input(folder_ / name);
-    for (std::string line; std::getline(input, line);) {
-        const std::string root = line.substr(0, line.find_first_of(" \t\r"));
-        const bool verb = root.ends_with("mak") || root.ends_with("mek");
-        const std::string lemma = verb ? root.substr(0, root.size() - 3) : root;
-        const auto take = [&](const std::string& form) {
+    const std::vector<TurkishRoot> roots = readTurkishRoots(folder_ / name);
+    std::unordered_set<std::string> nouns;
+    for (const TurkishRoot& root : roots)
+        if (!root.isVerb) nouns.insert(root.lemma);
+    for (const TurkishRoot& root : roots)
+        forEachTurkishForm(root, [&](const std::string& form) {
             if (!used.contains(form)) return;
-            for (const UniversalPos pos : verb ? verbal : nominal)
-                add(form, lemma, pos);
-        };
-        if (verb)
-            forEachTurkishVerbForm(lemma, take);
-        else
-            forEachTurkishNounForm(lemma, take);
-    }
+            // "Toplum" is a word of its own before it is a form of "top".
+            const bool isOther = form != root.lemma && nouns.contains(form);
+            for (const UniversalPos pos : root.isVerb ? verbal : nominal)
+                if (pos == UniversalPos::VERB || !isOther) add(form, root.lemma, pos);
+        });
 }
 
 void LexiconReader::readSpelling(const std::string& name, Tagging tagging) {
@@ -110,9 +108,24 @@ void LexiconReader::readSpelling(const std::string& name, Tagging tagging) {
     });
 }
 
+void LexiconReader::readWord(std::string_view form, std::string_view lemma, UniversalPos pos) {
+    add(form, lemma, pos);
+    settled_.emplace(form, pos);
+}
+
+void LexiconReader::addIndonesianPassives() {
+    const std::size_t actives = lines_.size();
+    for (std::size_t i = 0; i < actives; ++i) {
+        if (lines_[i].pos != UniversalPos::VERB) continue;
+        const auto passive = indonesianPassive(lines_[i].form, lines_[i].lemma);
+        if (passive) add(*passive, std::string(lines_[i].lemma), UniversalPos::VERB);
+    }
+}
+
 void LexiconReader::add(std::string_view form, std::string_view lemma, UniversalPos pos) {
     // A phrase is no token, and no lemma is empty.
     if (form.empty() || lemma.empty() || form.find(' ') != std::string_view::npos) return;
+    if (settled_.contains({std::string(form), pos})) return;
     if (!lines_.empty() && lines_.back().form == form && lines_.back().lemma == lemma &&
         lines_.back().pos == pos)
         return;

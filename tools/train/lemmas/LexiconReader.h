@@ -5,7 +5,7 @@
 #include "tools/train/lemmas/LemmaLexicon.h"
 
 #include <filesystem>
-#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -35,18 +35,18 @@ public:
     void readFullForms(const std::string& name, const TagNames& tags);
     /// Lines of lemma, form and features; the lists in use hold verbs.
     void readParadigms(const std::string& name);
-    /// Roots of Turkish, one a line, verbs in the infinitive, with all their forms that are among `words`.
-    void readTurkishRoots(const std::string& name, const std::vector<std::string>& words);
+    /// A dictionary of Turkish roots, with all their forms that are among `words`.
+    void readTurkish(const std::string& name, const std::vector<std::string>& words);
 
     /// Parts of speech that a form of a spelling dictionary may have.
     using Tagging = std::vector<linguistics::UniversalPos> (*)(const AffixedForm&);
     /// The spelling dictionary of the files `name`.aff and `name`.dic.
     void readSpelling(const std::string& name, Tagging tagging);
 
-    /// A word that no list has.
-    void readWord(std::string_view form, std::string_view lemma, linguistics::UniversalPos pos) {
-        add(form, lemma, pos);
-    }
+    /// A word that no list has, or that the lists read after it have wrong: they cannot add another lemma.
+    void readWord(std::string_view form, std::string_view lemma, linguistics::UniversalPos pos);
+    /// The passives of the Indonesian verbs read so far.
+    void addIndonesianPassives();
 
     [[nodiscard]] std::vector<LexiconLemma> lines() && { return std::move(lines_); }
 
@@ -55,6 +55,7 @@ private:
 
     std::filesystem::path folder_;
     std::vector<LexiconLemma> lines_;
+    std::set<std::pair<std::string, linguistics::UniversalPos>> settled_; ///< by `readWord`
 };
 
 } // namespace lexiform::train

@@ -10,10 +10,10 @@
 #include "tools/train/lemmas/MarkedWords.h"
 #include "tools/train/lemmas/RuleFinder.h"
 #include "tools/train/lemmas/RuleNumbers.h"
+#include "tools/train/lemmas/wholeWords.h"
 
 #include <algorithm>
 #include <array>
-#include <set>
 #include <string_view>
 
 namespace lexiform::train {
@@ -22,24 +22,26 @@ namespace {
 
 using namespace linguistics;
 
-// Weights for which there is room: four bytes and a half each.
+// Weights for which there is room, four bytes and a half each: more for the languages that have larger
+// models, and where words have so many forms that the accuracy still grows with it.
 constexpr std::size_t roomForWeights(std::string_view language) {
-    constexpr std::array<std::string_view, 8> firstRing = {"en", "de", "fr", "es", "it", "pt", "ru", "tr"};
-    return std::find(firstRing.begin(), firstRing.end(), language) != firstRing.end() ? 60'000 : 40'000;
+    constexpr std::array<std::string_view, 10> roomy = {"en", "de", "fr", "es", "it",
+                                                        "pt", "ru", "tr", "fi", "id"};
+    return std::find(roomy.begin(), roomy.end(), language) != roomy.end() ? 60'000 : 40'000;
 }
-constexpr std::size_t roomForCasings = 4'000;
+constexpr std::size_t roomForCasings = 4'000, roomForMending = 3'000;
 
 constexpr int rounds = 8, roundsAfterPruning = 6;
 
-// Where no treebank has lemmas, the words that no list knows show what is left as it is.
-void countOtherWords(const LanguageSources& sources, const std::vector<LexiconLemma>& lexicon,
-                     LemmaCounts& counts) {
-    std::set<WordKey> known;
+// Where no treebank has lemmas, those of the lists are counted in them, and the words that no list knows show
+// what is left as it is.
+void countByLexicon(const LanguageSources& sources, const std::vector<LexiconLemma>& lexicon,
+                    LemmaCounts& counts) {
+    LemmaCounts::Lexicon known;
     for (const LexiconLemma& line : lexicon)
-        known.insert({line.form, line.pos});
+        known[{line.form, line.pos}] = line.lemma;
     for (const Source& source : sources.training)
-        if (source.tagWeight > 0)
-            counts.addUnchanged(source.corpus, [&](const WordKey& word) { return known.contains(word); });
+        if (source.tagWeight > 0) counts.addByLexicon(source.corpus, known);
 }
 
 RuleNumbers numberedRules(const LemmaCounts& counts, const std::vector<LexiconLemma>& lexicon) {
@@ -61,17 +63,21 @@ public:
 
     void learnRules(const std::vector<LemmaExample>& examples, const std::vector<LemmaRule>& rules) {
         log_ << language_ << ": " << examples.size() << " examples\n";
-        LemmaPerceptron perceptron(firstRuleLabel + rules.size(), firstRuleLabel,
-                                   roomForWeights(language_) - roomForCasings,
-                                   [&](std::uint32_t label, std::uint32_t size) {
-                                       return rules[label - firstRuleLabel].fits(size);
-                                   });
+        const std::size_t room = roomForWeights(language_) - roomForCasings;
+        const LemmaPerceptron::Fits fits = [&](std::uint32_t label, std::uint32_t size) {
+            return rules[label - firstRuleLabel].fits(size);
+        };
+        LemmaPerceptron perceptron(firstRuleLabel + rules.size(), firstRuleLabel, room - roomForMending,
+                                   fits);
         perceptron.learn(examples, rounds);
         perceptron.prune();
         const std::size_t mistakes = perceptron.mistakes();
         perceptron.learn(examples, roundsAfterPruning);
         log_ << language_ << ": " << mistakes << " mistakes, " << perceptron.mistakes() << " after pruning\n";
         take(perceptron);
+        const std::size_t learnt = weights_.size();
+        mendWholeWords(examples, fits, firstRuleLabel, room - std::min(room, learnt), weights_);
+        log_ << language_ << ": " << weights_.size() - learnt << " words mended\n";
     }
 
     void mark(const MarkedWords& marked, CaseRules caseRules) {
@@ -117,7 +123,7 @@ void trainLemmas(const LanguageSources& sources, const std::filesystem::path& co
         if (source.lemmaWeight > 0) counts.add(source.corpus, source.lemmaWeight);
     const auto lexicon = filteredLexicon(readLemmaLexicon(sources.language, corpora),
                                          readFrequentWords(sources.language, corpora), counts, log);
-    if (counts.rules().empty()) countOtherWords(sources, lexicon, counts);
+    if (counts.rules().empty()) countByLexicon(sources, lexicon, counts);
     const RuleNumbers numbers = numberedRules(counts, lexicon);
     const MarkedWords marked(counts, numbers);
 

@@ -2,6 +2,7 @@
 
 #include "linguistics/file/ModelFile.h"
 #include "linguistics/lemmas/Lemmatizer.h"
+#include "tests/tools/train/TextFile.h"
 #include "tools/train/evaluation/LemmaEvaluation.h"
 
 #include <gtest/gtest.h>
@@ -105,6 +106,39 @@ TEST_F(TrainLemmas, measuresFaultsOneByOne) {
     EXPECT_EQ(given, "dog");
     wrong[0].tokens[0].furtherLemmas = {"dog"};
     EXPECT_EQ(evaluateLemmas(*model_, nullptr, wrong).right, 1U);
+}
+
+// Words as in a treebank without lemmas, each often enough to be learnt.
+LanguageSources withoutLemmas() {
+    GoldSentence sentence;
+    for (const auto& [form, pos] :
+         {std::pair{"Buku", UniversalPos::NOUN}, std::pair{"nya", UniversalPos::PRON},
+          std::pair{"digunakan", UniversalPos::VERB}, std::pair{"kami", UniversalPos::PRON}}) {
+        GoldToken word = token(form, pos, "");
+        word.lemma = std::nullopt;
+        sentence.tokens.push_back(word);
+    }
+    LanguageSources sources;
+    sources.language = "id";
+    sources.training.push_back({"own", Corpus(4, sentence), 1});
+    return sources;
+}
+
+TEST(TrainLemmasTest, takesTheLemmasOfListsWhereNoTreebankHasAny) {
+    const TextFolder corpora("takesTheLemmasOfLists");
+    corpora.write("id/lexicon/id_lemma_lookup.json", R"({"menggunakan": "guna"})");
+    ModelFileWriter writer("id");
+    std::ostringstream log;
+    trainLemmas(withoutLemmas(), corpora.path(), writer, log);
+    const auto bytes = writer.bytes();
+    const auto file = ModelFile::over(bytes);
+    const auto model = LemmaModel::over(file.value());
+    const auto lemma = [&](const char* form, UniversalPos pos) {
+        return Lemmatizer(model.value()).lemmaOf(std::vector<TaggedWord>{{form, pos}}, 0).lemma;
+    };
+    EXPECT_EQ(lemma("nya", UniversalPos::PRON), "dia");
+    EXPECT_EQ(lemma("digunakan", UniversalPos::VERB), "guna");
+    EXPECT_EQ(lemma("kami", UniversalPos::PRON), "kami");
 }
 
 TEST(TrainLemmasTest, leavesEveryWordAsItIsWithoutSources) {

@@ -1,6 +1,10 @@
+#include "tests/tools/train/TextFile.h"
 #include "tools/train/lemmas/AffixDictionary.h"
+#include "tools/train/lemmas/IndonesianVoices.h"
 #include "tools/train/lemmas/JsonPaths.h"
+#include "tools/train/lemmas/LexiconReader.h"
 #include "tools/train/lemmas/TurkishParadigms.h"
+#include "tools/train/lemmas/TurkishRoots.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,6 +16,7 @@ namespace lexiform::train {
 namespace {
 
 namespace fs = std::filesystem;
+using linguistics::UniversalPos;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
@@ -87,6 +92,83 @@ TEST(TurkishParadigmsTest, conjugates) {
     for (const char* form : {"başladı", "başlıyor", "başlayacak", "başladığını"})
         EXPECT_THAT(verbForms("başla"), Contains(form));
     EXPECT_THAT(verbForms("git"), Contains("gidiyor"));
+}
+
+TEST(IndonesianVoicesTest, givesBackTheLetterThatAPrefixSwallowed) {
+    EXPECT_EQ(indonesianPassive("memilih", "pilih"), "dipilih");
+    EXPECT_EQ(indonesianPassive("menulis", "tulis"), "ditulis");
+    EXPECT_EQ(indonesianPassive("menyewa", "sewa"), "disewa");
+    EXPECT_EQ(indonesianPassive("mengirimkan", "kirim"), "dikirimkan");
+}
+
+TEST(IndonesianVoicesTest, keepsWhatStandsAroundTheRoot) {
+    EXPECT_EQ(indonesianPassive("menggunakan", "guna"), "digunakan");
+    EXPECT_EQ(indonesianPassive("mengobati", "obat"), "diobati");
+    EXPECT_EQ(indonesianPassive("memperbaiki", "baik"), "diperbaiki");
+    EXPECT_EQ(indonesianPassive("mengecat", "cat"), "dicat");
+    EXPECT_EQ(indonesianPassive("melihat", "lihat"), "dilihat");
+}
+
+TEST(IndonesianVoicesTest, givesNothingForWordsThatAreMadeOtherwise) {
+    EXPECT_EQ(indonesianPassive("berjalan", "jalan"), std::nullopt);
+    EXPECT_EQ(indonesianPassive("meja", "meja"), std::nullopt);
+    EXPECT_EQ(indonesianPassive("", ""), std::nullopt);
+}
+
+std::set<std::string> formsOf(const TurkishRoot& root) {
+    std::set<std::string> forms;
+    forEachTurkishForm(root, [&](const std::string& form) { forms.insert(form); });
+    return forms;
+}
+
+TEST(TurkishRootsTest, readsWhatADictionarySaysOfRoots) {
+    const TextFolder folder("readsWhatADictionarySaysOfRoots");
+    const auto roots = readTurkishRoots(folder.write(
+        "roots.dict", "gelmek\nyemek [P:Noun]\nkısım [A:LastVowelDrop]\nsaat [A:InverseHarmony]\n"));
+    ASSERT_EQ(roots.size(), 4U);
+    EXPECT_TRUE(roots[0].isVerb);
+    EXPECT_EQ(roots[0].lemma, "gel");
+    EXPECT_FALSE(roots[1].isVerb);
+    EXPECT_EQ(roots[1].lemma, "yemek");
+    EXPECT_TRUE(roots[2].dropsVowel);
+    EXPECT_TRUE(roots[3].takesFrontVowels);
+}
+
+TEST(TurkishRootsTest, dropsTheLastVowelWhereTheRootDoes) {
+    EXPECT_THAT(formsOf({"kısım", false, true}), Contains("kısmı"));
+    EXPECT_THAT(formsOf({"kısım", false, true}), Contains("kısımda"));
+    EXPECT_THAT(formsOf({"takım", false, false}), Not(Contains("takmı")));
+}
+
+TEST(TurkishRootsTest, putsFrontVowelsAfterRootsThatAskForThem) {
+    for (const char* form : {"saat", "saatler", "saatinde"})
+        EXPECT_THAT(formsOf({"saat", false, false, true}), Contains(form));
+    EXPECT_THAT(formsOf({"rol", false, false, true}), Contains("rolü"));
+}
+
+TEST(LexiconReaderTest, takesATurkishRootForItselfBeforeAFormOfAnother) {
+    const TextFolder folder("takesATurkishRootForItself");
+    folder.write("roots.dict", "yay\nyayın\nyaymak\n");
+    LexiconReader reader(folder.path());
+    reader.readTurkish("roots.dict", {"yayın", "yaya"});
+    std::vector<std::string> nouns;
+    for (const LexiconLemma& line : std::move(reader).lines())
+        if (line.pos == UniversalPos::NOUN) nouns.push_back(line.form + "<" + line.lemma);
+    EXPECT_THAT(nouns, testing::UnorderedElementsAre("yaya<yay", "yayın<yayın"));
+}
+
+TEST(LexiconReaderTest, keepsToTheWordsThatAreSettled) {
+    const TextFolder folder("keepsToTheWordsThatAreSettled");
+    folder.write("table.json", R"({"merupakan": "rupa", "memilih": "pilih"})");
+    LexiconReader reader(folder.path());
+    reader.readWord("merupakan", "merupakan", UniversalPos::VERB);
+    reader.readTable("table.json", {UniversalPos::VERB});
+    reader.addIndonesianPassives();
+    std::vector<std::string> lines;
+    for (const LexiconLemma& line : std::move(reader).lines())
+        lines.push_back(line.form + "<" + line.lemma);
+    EXPECT_THAT(lines, ElementsAre("merupakan<merupakan", "rupa<rupa", "memilih<pilih", "pilih<pilih",
+                                   "dipilih<pilih"));
 }
 
 } // namespace

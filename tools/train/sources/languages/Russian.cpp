@@ -3,6 +3,8 @@
 #include "linguistics/text/Utf8.h"
 #include "tools/train/sources/languages/RussianCompounds.h"
 
+#include <algorithm>
+
 namespace lexiform::train::recipes {
 
 namespace inRussian {
@@ -45,10 +47,38 @@ Condition roman() {
         [](Place place) { return place.token().form.find_first_not_of("IVXLC") == std::string::npos; });
 }
 
+Condition inCapitals() {
+    return Condition([](Place place) {
+        const std::string& form = place.token().form;
+        return std::none_of(form.begin(), form.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+    });
+}
+
+// The lemma of an abbreviation is the word that it stands for.
+Rules abbreviations() {
+    return {
+        {form("г г. гг гг.") && tagged({NOUN}), toLemma("год")},
+        {form("в. вв.") && tagged({NOUN}), toLemma("век")},
+        {form("тыс тыс."), toLemma("тысяча")},
+        {form("млн млн."), toLemma("миллион")},
+        {form("млрд млрд."), toLemma("миллиард")},
+        {form("мм") && tagged({NOUN}), toLemma("миллиметр")},
+        {form("м") && tagged({NOUN}), toLemma("метр")},
+        {form("км") && tagged({NOUN}), toLemma("километр")},
+        {form("кг") && tagged({NOUN}), toLemma("килограмм")},
+        {form("руб руб.") && tagged({NOUN}), toLemma("рубль")},
+        {form("т.") && before(form("и")), toLemma("так")},
+        {form("д.") && before(form("т.")), toLemma("далее")},
+        {form("др."), toLemma("другой")},
+        {form("см.") && tagged({VERB}), toLemma("смотреть")},
+    };
+}
+
 Rules foreign() {
     return {
+        {latin() && inCapitals(), toLemmaCasedLikeForm()},
         {latin() && !roman(), toTag(X)},
-        {roman(), toTag(ADJ)},
+        {roman(), both(toTag(ADJ), toLemmaCasedLikeForm())},
         {form("№ + = ° % $ &"), toTag(SYM)},
     };
 }
@@ -85,17 +115,21 @@ Rules properNouns() {
 }
 
 Rules gsd() {
-    return joined({foreign(), auxiliaries(), numerals(), words(), properNouns()});
+    return joined({foreign(), auxiliaries(), numerals(), words(), properNouns(), abbreviations()});
 }
 
 Rules taiga() {
-    return {
-        {latin() && !roman(), toTag(X)},
-        {roman(), toTag(ADJ)},
-        {formBeginsWith("@") && tagged({X}), toTag(PROPN)},
-        {lemma("другой сам самый"), toTag(DET)},
-        {tagged({PROPN}), toLemmaCasedLikeForm()},
-    };
+    return joined({{
+                       {latin() && inCapitals(), toLemmaCasedLikeForm()},
+                       {latin() && !roman(), toTag(X)},
+                       {roman(), both(toTag(ADJ), toLemmaCasedLikeForm())},
+                       {form("%"), toLemma("%")},
+                       {form("всё") && tagged({PRON, ADV}), toLemma("всё")},
+                       {formBeginsWith("@") && tagged({X}), toTag(PROPN)},
+                       {lemma("другой сам самый"), toTag(DET)},
+                       {tagged({PROPN}), toLemmaCasedLikeForm()},
+                   },
+                   abbreviations()});
 }
 
 // Common nouns in lower case that stand for an organization are no names, unless capitals join them.

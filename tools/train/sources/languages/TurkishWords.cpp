@@ -63,6 +63,13 @@ bool hasVerbalEnding(const std::string& form, const std::string& lemma) {
     return isParticiple(suffixes) || isConverb(suffixes);
 }
 
+// The copula of what is certain, "dır", has another lemma than those of past, hearsay and condition.
+std::string_view copulaLemma(const std::string& copula) {
+    for (const std::string_view certain : {"dır", "dir", "dur", "dür", "tır", "tir", "tur", "tür"})
+        if (copula.starts_with(certain)) return "i";
+    return copula.ends_with("ken") ? "i" : "y";
+}
+
 /// Splits and retags the words of one corpus.
 class Splitter {
 public:
@@ -96,7 +103,7 @@ private:
         const UniversalPos pos = lemmas_.nominalOf(*token.lemma);
         const std::size_t size = nounCopulaIn(form);
         if (size != 0 && form.size() - size + 1 >= token.lemma->size())
-            return addSplit(std::move(token), size, AUX, "i", pos);
+            return addSplit(std::move(token), size, AUX, copulaLemma(form.substr(form.size() - size)), pos);
         token.pos = pos;
         keep(std::move(token));
     }
@@ -104,7 +111,8 @@ private:
     void addFiniteVerb(GoldToken token, const std::string& form) {
         const std::size_t size = verbCopulaIn(form);
         if (size != 0 && form.size() - size > token.lemma->size())
-            return addSplit(std::move(token), size, AUX, "y", std::nullopt);
+            return addSplit(std::move(token), size, AUX, copulaLemma(form.substr(form.size() - size)),
+                            std::nullopt);
         keep(std::move(token));
     }
 
