@@ -3,6 +3,7 @@
 #include "linguistics/segmentation/CharacterWords.h"
 #include "linguistics/segmentation/EnglishEnclitics.h"
 #include "linguistics/segmentation/EnglishWords.h"
+#include "linguistics/segmentation/FrenchPronouns.h"
 #include "linguistics/segmentation/Marks.h"
 #include "linguistics/segmentation/SpecialForms.h"
 #include "linguistics/segmentation/WordScanner.h"
@@ -112,6 +113,7 @@ void ChunkCutter::takeMarks(TokenKind kind) {
 void ChunkCutter::takeWord(std::size_t end) {
     if (!chunk_.isPlain) takeFigure(end);
     if (conventions_.english) return takeEnglishWord(end);
+    if (conventions_.tiesPronouns) return takeFrenchWord(end);
     put(end, TokenKind::word);
 }
 
@@ -135,6 +137,13 @@ void ChunkCutter::takeEnglishStem(std::size_t end) {
     const std::size_t split = contraction > 0 || chunk_.isPlain ? contraction : startOfEnclitic(stem);
     if (split > 0 && split < stem.size()) put(at_ + split, TokenKind::word);
     put(end, TokenKind::word);
+}
+
+// The training texts have too few dialogues to say more of the pronouns than the rules do.
+void ChunkCutter::takeFrenchWord(std::size_t end) {
+    put(at_ + startOfFrenchPronouns(paragraph_.substr(at_, end - at_)), TokenKind::word);
+    while (at_ < end)
+        put(at_ + lengthOfFrenchPronoun(paragraph_.substr(at_, end - at_)), TokenKind::word, true);
 }
 
 void ChunkCutter::takeJoinedWords() {

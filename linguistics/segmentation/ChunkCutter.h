@@ -46,6 +46,7 @@ private:
     void takeFigure(std::size_t end);
     void takeEnglishWord(std::size_t end);
     void takeEnglishStem(std::size_t end);
+    void takeFrenchWord(std::size_t end);
     void takeJoinedWords();
 
     const Characters& characters_;
