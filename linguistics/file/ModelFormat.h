@@ -28,7 +28,6 @@ enum class SectionId : std::uint32_t {
     bucketStarts = 18,
     weights = 19,
     posTransitions = 20,
-    nameTransitions = 21,
 
     network = 32, ///< up to 47: the recurrent network; its dimensions first
     networkKeys = 33,

@@ -20,8 +20,9 @@ Conventions conventionsOf(std::string_view language) {
     const std::string_view primary = language.substr(0, language.find('-'));
     Conventions conventions;
     conventions.english = primary == "en";
-    conventions.partsHyphens = primary == "en" || primary == "de";
+    conventions.partsHyphens = isOneOf(std::array{"en"sv, "de"sv, "tr"sv}, primary);
     conventions.elides = isOneOf(std::array{"fr"sv, "it"sv, "ca"sv, "oc"sv}, primary);
+    conventions.tiesPronouns = primary == "fr";
     conventions.groupsBySpaces = isOneOf(std::array{"fr"sv, "fi"sv}, primary);
     conventions.hasPointedOrdinals =
         isOneOf(std::array{"de"sv, "da"sv, "nb"sv, "nn"sv, "no"sv, "fi"sv, "tr"sv}, primary);

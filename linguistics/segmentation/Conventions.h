@@ -10,6 +10,7 @@ struct Conventions {
     bool english = false;            ///< contractions, enclitics, clipped words, English abbreviations
     bool partsHyphens = false;       ///< "well|-|known"
     bool elides = false;             ///< "l'|homme"
+    bool tiesPronouns = false;       ///< "dit|-elle": French verbs and their pronouns
     bool groupsBySpaces = false;     ///< "10 000" is one number
     bool hasPointedOrdinals = false; ///< "3. Mai": the full stop belongs to the number
     bool partsParticles = false;     ///< "rumah|nya", as Indonesian writes its enclitics

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "linguistics/segmentation/ChunkCutter.h"
 #include "linguistics/segmentation/ChunkReviser.h"
 #include "linguistics/segmentation/Conventions.h"
-#include "linguistics/segmentation/DictionaryBreaker.h"
 #include "linguistics/segmentation/LearnedSegmentation.h"
 #include "linguistics/text/Analysis.h"
 #include "linguistics/text/Characters.h"
@@ -32,32 +32,19 @@ public:
 private:
     [[nodiscard]] Unit unit(std::size_t at) const { return unitAt(characters_, paragraph_, at); }
     void emit(std::size_t end, TokenKind kind);
-    void put(std::size_t end, TokenKind kind, bool isFixed = false);
-    void emitPieces(std::size_t start);
+    void emitPieces();
     void emitWord(std::size_t end);
 
     void takeSpaces();
     void takeChunk();
-    [[nodiscard]] bool endsPlainly(std::size_t start, std::size_t end) const;
-    [[nodiscard]] std::size_t endOfChunk();
-    void takePiece(std::size_t chunkStart, std::size_t chunkEnd);
-    [[nodiscard]] bool takeSpecialForm(std::size_t chunkStart, std::size_t chunkEnd);
-    [[nodiscard]] bool takeToken(std::size_t length, TokenKind kind, bool isFixed);
-    [[nodiscard]] bool takeApostrophe(std::string_view rest, bool startsChunk);
-    void takeUnit(const Unit& unit, std::size_t chunkEnd);
-    void takeWord(std::size_t end);
-    void takeFigure(std::size_t end);
-    void takeStem(std::size_t end);
-    void takeJoinedWords(std::size_t chunkEnd);
-    void takeMarks(std::size_t chunkEnd, TokenKind kind);
+    [[nodiscard]] Chunk nextChunk() const;
+    [[nodiscard]] bool endsPlainly(const Chunk& chunk) const;
 
     const Characters& characters_;
-    DictionaryBreaker dictionary_;
+    ChunkCutter cutter_;
     std::string_view paragraph_;
     std::size_t offset_ = 0;
     std::size_t at_ = 0; ///< the first byte that is in no token yet
-    bool plain_ = false; ///< the chunk holds letters only
-    bool hasAddressMark_ = false;
     Conventions conventions_;
     std::optional<ChunkReviser> reviser_; ///< where something has been learnt
     const LearnedSegmentation* learned_ = nullptr;

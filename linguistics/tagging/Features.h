@@ -2,8 +2,6 @@
 
 #include "linguistics/tagging/WordTraits.h"
 #include "linguistics/text/Hash.h"
-#include "linguistics/text/NameLabel.h"
-#include "linguistics/text/UniversalPos.h"
 
 #include <array>
 #include <cstddef>
@@ -79,25 +77,6 @@ void forEachContextFeature(const Context& context, bool first, SentenceTraits se
          (word.entry.ambiguity * std::uint64_t{8} + static_cast<std::uint64_t>(after.casing)) *
                  std::uint64_t{8} +
              static_cast<std::uint64_t>(before.casing));
-}
-
-/// Tells `take` the features that only the search for names uses: they know the parts of speech.
-template <typename Take>
-void forEachNameFeature(const Context& context, const std::array<UniversalPos, 3>& pos, Take take) {
-    const auto tell = [&](std::uint64_t kind, std::uint64_t a, std::uint64_t b) {
-        take(combined(combined(kind, a), b));
-    };
-    const auto before = static_cast<std::uint64_t>(pos[0]);
-    const auto own = static_cast<std::uint64_t>(pos[1]);
-    const auto after = static_cast<std::uint64_t>(pos[2]);
-    const WordTraits& word = *context[2];
-    tell(64, own, before * 32 + after);
-    tell(65, own, word.entry.cluster);
-    tell(66, own * 32 + before, context[1]->normal);
-    tell(67, own * 32 + after, context[3]->normal);
-    tell(68, own * 32 + before, word.entry.lists * std::uint64_t{256} + context[1]->entry.lists);
-    tell(69, own * 32 + after, word.entry.lists * std::uint64_t{256} + context[3]->entry.lists);
-    tell(70, context[1]->exact, context[3]->exact);
 }
 
 } // namespace lexiform::linguistics

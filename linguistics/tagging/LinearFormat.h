@@ -1,6 +1,5 @@
 #pragma once
 
-#include "linguistics/text/NameLabel.h"
 #include "linguistics/text/UniversalPos.h"
 
 #include <cstddef>
@@ -13,17 +12,15 @@ namespace lexiform::linguistics {
 /// A weight of the linear model: what a feature adds to one label's score.
 struct WeightRecord {
     std::uint16_t check = 0; ///< bits 16 to 31 of the feature's hash
-    std::uint8_t label = 0;  ///< a `UniversalPos`, or `universalPosCount` plus a `NameLabel`
+    std::uint8_t label = 0;  ///< a `UniversalPos`
     std::int8_t weight = 0;
 };
 static_assert(sizeof(WeightRecord) == 4);
 
-inline constexpr std::size_t labelCount = universalPosCount + nameLabelCount;
-
 /// Scores of labels and rows of transitions have this many places, whole vector registers; those past
 /// the labels are zero in a file and mean nothing.
 inline constexpr std::size_t scoreCount = 24;
-static_assert(labelCount <= scoreCount);
+static_assert(universalPosCount <= scoreCount);
 
 /// No transition in a file is further from zero, so that sums of a few scores fit 16 bits.
 inline constexpr int largestTransition = 4000;

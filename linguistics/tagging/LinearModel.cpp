@@ -22,7 +22,6 @@ Outcome<LinearModel, std::string> LinearModel::over(const ModelFile& file) {
     model.bucketStarts_ = reader.section<std::uint32_t>(SectionId::bucketStarts);
     model.weights_ = reader.section<WeightRecord>(SectionId::weights);
     model.posTransitions_ = reader.section<std::int16_t>(SectionId::posTransitions);
-    model.nameTransitions_ = reader.section<std::int16_t>(SectionId::nameTransitions);
     if (!reader.fault().empty()) return reader.fault();
     for (const std::string& fault : {model.faultInLexicon(), model.faultInWeights()})
         if (!fault.empty()) return fault;
@@ -50,8 +49,6 @@ std::string LinearModel::faultInLexicon() const {
 }
 
 std::string LinearModel::faultInWeights() const {
-    if (nameTransitions_.size() != nameLabelCount * nameLabelCount)
-        return "the name transitions have a wrong count";
     if (bucketStarts_.size() < 2 || !std::has_single_bit(bucketStarts_.size() - 1))
         return "the buckets have a wrong count";
     if (bucketStarts_.front() != 0 || bucketStarts_.back() != weights_.size() ||
@@ -60,11 +57,10 @@ std::string LinearModel::faultInWeights() const {
     const auto tooLarge = [](std::int16_t value) {
         return value > largestTransition || value < -largestTransition;
     };
-    if (std::any_of(posTransitions_.begin(), posTransitions_.end(), tooLarge) ||
-        std::any_of(nameTransitions_.begin(), nameTransitions_.end(), tooLarge))
+    if (std::any_of(posTransitions_.begin(), posTransitions_.end(), tooLarge))
         return "a transition is too large";
     const bool known = std::all_of(weights_.begin(), weights_.end(),
-                                   [](const WeightRecord& record) { return record.label < labelCount; });
+                                   [](const WeightRecord& record) { return record.label < scoreCount; });
     return known ? "" : "a weight is for no label";
 }
 

@@ -40,10 +40,6 @@ public:
     [[nodiscard]] const std::int16_t* posTransition(std::uint8_t ambiguity, std::size_t previous) const {
         return posTransitions_.data() + (ambiguity * (universalPosCount + 1) + previous) * scoreCount;
     }
-    /// The same for name labels; the start of a sentence counts as `NameLabel::outside`.
-    [[nodiscard]] const std::int16_t* nameTransition(std::size_t previous) const {
-        return nameTransitions_.data() + previous * nameLabelCount;
-    }
 
 private:
     LinearModel() = default;
@@ -66,7 +62,6 @@ private:
     std::vector<std::uint32_t> filter_; ///< one word of `filterShares` bits per bucket
     std::span<const WeightRecord> weights_;
     std::span<const std::int16_t> posTransitions_;
-    std::span<const std::int16_t> nameTransitions_;
 };
 
 } // namespace lexiform::linguistics

@@ -4,24 +4,7 @@
 
 namespace lexiform::linguistics {
 
-namespace {
-
-// A score that no sum of weights comes near: a word away from all proper nouns is in no name.
-constexpr std::int16_t certain = 12000;
-
-} // namespace
-
-LinearTagger::LinearTagger(const LinearModel& model) : model_(model), cache_(model) {
-    for (std::size_t previous = 0; previous <= nameLabelCount; ++previous) {
-        // What stands before a sentence is outside every name.
-        const std::size_t before = previous == nameLabelCount ? 0 : previous;
-        for (std::size_t label = 0; label < nameLabelCount; ++label) {
-            const bool allowed = mayFollow(static_cast<NameLabel>(before), static_cast<NameLabel>(label));
-            nameTransitions_[previous][label] =
-                allowed ? model.nameTransition(before)[label] : NameDecoder::forbidden;
-        }
-    }
-}
+LinearTagger::LinearTagger(const LinearModel& model) : model_(model), cache_(model) {}
 
 LexiconEntry LinearTagger::entryOf(std::string_view word) {
     cache_.makeRoom(1);
@@ -32,10 +15,6 @@ void LinearTagger::tag(std::span<const std::string_view> words, std::span<WordLa
     lookUp(words);
     scoreWords();
     tagPartsOfSpeech(labels);
-    const auto isProper = [](const WordLabels& label) { return label.pos == UniversalPos::PROPN; };
-    if (std::none_of(labels.begin(), labels.end(), isProper)) return;
-    addNameFeatures(labels);
-    tagNames(labels);
 }
 
 void LinearTagger::lookUp(std::span<const std::string_view> words) {
@@ -81,30 +60,6 @@ void LinearTagger::tagPartsOfSpeech(std::span<WordLabels> labels) {
     posDecoder_.decode(emission, transition, best_);
     for (std::size_t i = 0; i < labels.size(); ++i)
         labels[i] = {static_cast<UniversalPos>(best_[i]), NameLabel::outside};
-}
-
-void LinearTagger::addNameFeatures(std::span<const WordLabels> labels) {
-    const auto posAt = [&](std::size_t i) { return i < labels.size() ? labels[i].pos : UniversalPos::PUNCT; };
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        // The word before the first is out of range by wrapping around.
-        const std::array pos = {posAt(i - 1), posAt(i), posAt(i + 1)};
-        if (std::find(pos.begin(), pos.end(), UniversalPos::PROPN) == pos.end()) {
-            scores_[i][universalPosCount] = certain;
-            continue;
-        }
-        forEachNameFeature(contextAt(i), pos,
-                           [&](std::uint64_t feature) { model_.add(feature, scores_[i].data()); });
-    }
-}
-
-void LinearTagger::tagNames(std::span<WordLabels> labels) {
-    const auto emission = [&](std::size_t word) { return scores_[word].data() + universalPosCount; };
-    const auto transition = [&](std::size_t, std::size_t previous) {
-        return nameTransitions_[previous].data();
-    };
-    nameDecoder_.decode(emission, transition, best_);
-    for (std::size_t i = 0; i < labels.size(); ++i)
-        labels[i].name = static_cast<NameLabel>(best_[i]);
 }
 
 SentenceTraits sentenceTraitsOf(std::span<const Casing> casings) {

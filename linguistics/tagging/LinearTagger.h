@@ -14,8 +14,8 @@
 namespace lexiform::linguistics {
 
 /// Labels sentences with a linear-chain model (Lafferty, McCallum and Pereira 2001, "Conditional random
-/// fields"): the best sequence of parts of speech, then, where there are proper nouns, the best sequence
-/// of name labels. Integers throughout, so that every processor gives the same labels.
+/// fields"): the best sequence of parts of speech; it finds no names. Integers throughout, so that every
+/// processor gives the same labels.
 class LinearTagger : public SequenceTagger {
 public:
     /// A tagger over `model`, which must outlive it.
@@ -26,20 +26,15 @@ public:
 
 private:
     using PosDecoder = ChainDecoder<universalPosCount, scoreCount>;
-    using NameDecoder = ChainDecoder<nameLabelCount, 8>;
 
     void lookUp(std::span<const std::string_view> words);
     void scoreWords();
     [[nodiscard]] Context contextAt(std::size_t word) const;
     void tagPartsOfSpeech(std::span<WordLabels> labels);
-    void addNameFeatures(std::span<const WordLabels> labels);
-    void tagNames(std::span<WordLabels> labels);
 
     const LinearModel& model_;
     WordCache cache_;
     PosDecoder posDecoder_;
-    NameDecoder nameDecoder_;
-    std::array<NameDecoder::Row, nameLabelCount + 1> nameTransitions_{};
     // Of the sentence at hand; kept between sentences for their memory only.
     std::vector<std::uint32_t> indices_; ///< of the words, with boundaries on both sides
     SentenceTraits sentence_;

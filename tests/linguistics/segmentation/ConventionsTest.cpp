@@ -24,8 +24,36 @@ TEST(Conventions, partElidedWordsInFrenchItalianAndCatalan) {
     EXPECT_EQ(cutText("L'eau", ""), "L'eau");
 }
 
-TEST(Conventions, keepHyphenatedWordsButInEnglishAndGerman) {
+TEST(Conventions, partTheInvertedPronounsOfFrench) {
+    EXPECT_EQ(cutText("« Oui », dit-elle.", "fr"), "«|Oui|»|,|dit|-elle|.");
+    EXPECT_EQ(cutText("Y a-t-il, fut-ce, sont-ils, ai-je ?", "fr"),
+              "Y|a|-t-il|,|fut|-ce|,|sont|-ils|,|ai|-je|?");
+    EXPECT_EQ(cutText("Qu'est-ce que l'a-t-on", "fr"), "Qu'|est|-ce|que|l'|a|-t-on");
+    EXPECT_EQ(cutText("DIT-IL", "fr"), "DIT|-IL");
+    EXPECT_EQ(cutText("dit-elle", "ca"), "dit-elle");
+}
+
+TEST(Conventions, partThePronounsOfFrenchImperatives) {
+    EXPECT_EQ(cutText("Donne-le-moi ! Allez-vous-en, vas-y.", "fr"),
+              "Donne|-le|-moi|! || Allez|-vous|-en|,|vas|-y|.");
+    EXPECT_EQ(cutText("va-t'en, va-t-en, donnez-m’en", "fr"), "va|-t'|en|,|va|-t-en|,|donnez|-m’|en");
+}
+
+TEST(Conventions, partThePlaceOfFrenchNouns) {
+    EXPECT_EQ(cutText("ce jour-là, cette fois-ci", "fr"), "ce|jour|-là|,|cette|fois|-ci");
+    EXPECT_EQ(cutText("celui-ci, ceux-là, jusque-là", "fr"), "celui-ci|,|ceux-là|,|jusque-là");
+}
+
+TEST(Conventions, keepFrenchCompoundsThatLookLikeInversions) {
+    for (const std::string_view word : {"rendez-vous", "peut-être", "vis-à-vis", "moi-même", "chez-moi",
+                                        "as-tu-vu", "Jong-il", "Bar-le-Duc", "garde-à-vous"})
+        EXPECT_EQ(cutText(word, "fr"), word);
+    EXPECT_EQ(cutText("-il -", "fr"), "-|il|-");
+}
+
+TEST(Conventions, keepHyphenatedWordsButInEnglishGermanAndTurkish) {
     EXPECT_EQ(cutText("un porte-clés", "fr"), "un|porte-clés");
+    EXPECT_EQ(cutText("kara-kaplı", "tr"), "kara|-|kaplı");
     EXPECT_EQ(cutText("какой-то дом", "ru"), "какой-то|дом");
     EXPECT_EQ(cutText("een e-mail-adres", "nl"), "een|e-mail-adres");
     EXPECT_EQ(cutText("Nord-Süd", "de"), "Nord|-|Süd");

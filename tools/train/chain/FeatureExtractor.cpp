@@ -15,8 +15,7 @@ const WordTraits& FeatureExtractor::traitsOf(const std::string& word) {
     return known_.emplace(word, traits).first->second;
 }
 
-void FeatureExtractor::extract(const GoldSentence& sentence, const std::vector<UniversalPos>* pos,
-                               const Take& take) {
+void FeatureExtractor::extract(const GoldSentence& sentence, const Take& take) {
     const std::size_t count = sentence.tokens.size();
     std::vector<const WordTraits*> words(count + neighbourCount, &boundary_);
     std::vector<Casing> casings;
@@ -25,19 +24,14 @@ void FeatureExtractor::extract(const GoldSentence& sentence, const std::vector<U
         casings.push_back(words[i + contextReach]->casing);
     }
     const SentenceTraits traits = sentenceTraitsOf(casings);
-    const auto posAt = [&](std::size_t i) { return i < count ? (*pos)[i] : UniversalPos::PUNCT; };
     for (std::size_t i = 0; i < count; ++i) {
         Context context;
         for (std::size_t place = 0; place < context.size(); ++place) {
             context[place] = words[i + place];
             forEachWordFeature(*words[i + place], static_cast<int>(place) - contextReach,
-                               [&](std::uint64_t feature) { take(i, feature, false); });
+                               [&](std::uint64_t feature) { take(i, feature); });
         }
-        forEachContextFeature(context, i == 0, traits,
-                              [&](std::uint64_t feature) { take(i, feature, true); });
-        if (pos == nullptr) continue;
-        forEachNameFeature(context, {posAt(i - 1), posAt(i), posAt(i + 1)},
-                           [&](std::uint64_t feature) { take(i, feature, true); });
+        forEachContextFeature(context, i == 0, traits, [&](std::uint64_t feature) { take(i, feature); });
     }
 }
 

@@ -19,13 +19,10 @@ public:
     /// `lexicon` must outlive the extractor.
     explicit FeatureExtractor(const Lexicon& lexicon);
 
-    /// Whether a feature is of the kind that joins words, which needs to be seen oftener.
-    using Take = std::function<void(std::size_t word, std::uint64_t feature, bool joint)>;
+    using Take = std::function<void(std::size_t word, std::uint64_t feature)>;
 
-    /// Tells `take` the features of every word of `sentence`; with `pos`, one for each word, those that
-    /// only names use as well.
-    void extract(const GoldSentence& sentence, const std::vector<linguistics::UniversalPos>* pos,
-                 const Take& take);
+    /// Tells `take` the features of every word of `sentence`.
+    void extract(const GoldSentence& sentence, const Take& take);
 
     [[nodiscard]] const linguistics::WordTraits& traitsOf(const std::string& word);
 

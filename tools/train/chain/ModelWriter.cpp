@@ -18,11 +18,12 @@ using namespace linguistics;
 // A power of two that leaves a few weights to a bucket.
 constexpr std::size_t bucketCount = std::size_t{1} << 16;
 
-} // namespace
-
-int ModelWriter::rounded(float value, int limit) {
+// `value` as the nearest integer, no further from zero than `limit`.
+int rounded(float value, int limit) {
     return std::clamp(static_cast<int>(std::lround(value)), -limit, limit);
 }
+
+} // namespace
 
 void ModelWriter::setLexicon(const Lexicon& lexicon) {
     std::map<std::uint32_t, LexiconEntry> byKey;
@@ -32,6 +33,27 @@ void ModelWriter::setLexicon(const Lexicon& lexicon) {
         keys_.push_back(key);
         entries_.push_back(entry);
     }
+}
+
+void ModelWriter::addWeights(const FeatureTable& table, const ChainWeights& chain, float scale,
+                             std::size_t most) {
+    std::vector<Weight> weights;
+    for (std::size_t i = 0; i < chain.features().size(); ++i)
+        for (std::size_t label = 0; label < ChainWeights::labels; ++label)
+            if (const int value = rounded(chain.features()[i][label] * scale, 127); value != 0)
+                weights.push_back({table.features()[i], static_cast<std::uint8_t>(label),
+                                   static_cast<std::int8_t>(value), importance(value, table.counts()[i])});
+    keepMostImportant(weights, most);
+}
+
+void ModelWriter::addTransitions(const ChainWeights& chain, float scale) {
+    for (const ChainWeights::Transitions& rows : chain.transitions())
+        for (const ChainWeights::Row& row : rows) {
+            for (const float value : row)
+                posTransitions_.push_back(
+                    static_cast<std::int16_t>(rounded(value * scale, largestTransition)));
+            posTransitions_.resize(posTransitions_.size() + scoreCount - ChainWeights::labels);
+        }
 }
 
 std::uint64_t ModelWriter::importance(int value, std::uint32_t count) {
@@ -54,10 +76,9 @@ void ModelWriter::keepMostImportant(std::vector<Weight>& weights, std::size_t mo
 std::size_t ModelWriter::bytesWithoutWeights() const {
     constexpr std::size_t posTransitions =
         LexiconBuilder::classCount() * (universalPosCount + 1) * scoreCount * sizeof(std::int16_t);
-    constexpr std::size_t nameTransitions = nameLabelCount * nameLabelCount * sizeof(std::int16_t);
     constexpr std::size_t headersAndGaps = 1024;
     return keys_.size() * (sizeof(std::uint32_t) + sizeof(LexiconEntry)) +
-           (bucketCount + 1) * sizeof(std::uint32_t) + posTransitions + nameTransitions + headersAndGaps;
+           (bucketCount + 1) * sizeof(std::uint32_t) + posTransitions + headersAndGaps;
 }
 
 void ModelWriter::appendTo(ModelFileWriter& file) const {
@@ -80,7 +101,6 @@ void ModelWriter::appendTo(ModelFileWriter& file) const {
     file.append(SectionId::bucketStarts, featureVersion, starts);
     file.append(SectionId::weights, featureVersion, records);
     file.append(SectionId::posTransitions, featureVersion, posTransitions_);
-    file.append(SectionId::nameTransitions, featureVersion, nameTransitions_);
 }
 
 } // namespace lexiform::train

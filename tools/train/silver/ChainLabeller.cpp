@@ -13,9 +13,7 @@ using namespace linguistics;
 
 namespace {
 
-std::vector<std::byte> chainBytes(LanguageSources sources, const Lexicon& lexicon, std::ostream& log) {
-    for (Source& source : sources.training)
-        source.nameWeight = 0;
+std::vector<std::byte> chainBytes(const LanguageSources& sources, const Lexicon& lexicon, std::ostream& log) {
     ModelFileWriter image("und");
     trainChain(sources, lexicon, std::numeric_limits<std::size_t>::max(), image, log);
     return image.bytes();

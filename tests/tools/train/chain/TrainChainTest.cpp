@@ -52,28 +52,23 @@ GoldTokenFigures figuresOf(const std::vector<std::byte>& bytes, const Corpus& go
     return evaluateTokens(*model.value(), gold);
 }
 
-TEST(TrainChain, learnsTagsAndNames) {
-    const Source source = songs(1, 1);
-    const auto figures = figuresOf(trained({source}), source.corpus);
-    EXPECT_EQ(figures.pos.right, figures.pos.gold);
-    EXPECT_EQ(figures.names.right, 20U);
-    EXPECT_EQ(figures.names.system, 20U);
-}
-
-TEST(TrainChain, findsNoNamesWhereNoneAreAnnotated) {
+TEST(TrainChain, learnsTags) {
     const Source source = songs(1, 0);
     const auto figures = figuresOf(trained({source}), source.corpus);
     EXPECT_EQ(figures.pos.right, figures.pos.gold);
-    EXPECT_EQ(figures.names.system, 0U);
 }
 
-TEST(TrainChain, learnsNamesFromSourcesWithoutTags) {
+TEST(TrainChain, learnsNothingFromSourcesThatHaveNamesAlone) {
     Source names = songs(0, 1);
     for (GoldSentence& one : names.corpus)
         for (GoldToken& token : one.tokens)
             token.pos.reset();
-    const auto figures = figuresOf(trained({songs(1, 0), names}), names.corpus);
-    EXPECT_EQ(figures.names.right, 20U);
+    EXPECT_EQ(trained({songs(1, 0), names}), trained({songs(1, 0)}));
+}
+
+TEST(TrainChain, findsNoNames) {
+    const Source source = songs(1, 1);
+    EXPECT_EQ(figuresOf(trained({source}), source.corpus).names.system, 0U);
 }
 
 TEST(TrainChain, leavesOutWeightsThatDoNotFit) {
