@@ -63,6 +63,20 @@ std::size_t startOfEnclitic(std::string_view word) {
     return lengthOfEnclitic(word.substr(start)) == length + tail.size() ? start : word.size();
 }
 
+// "O'Neill" is one word, whatever has been learnt of its parts.
+bool isIrishName(std::string_view word) {
+    const std::size_t mark = word.size() > 3 && word[0] == 'O' ? lengthOfApostrophe(word.substr(1)) : 0;
+    return mark > 0 && mark + 2 < word.size() && isAsciiUpper(word[mark + 1]) &&
+           isAsciiLetter(word[mark + 2]);
+}
+
+// "report.pdf", which what has been learnt of full stops would part.
+bool isNetworkName(std::string_view word) {
+    const std::size_t stop = word.find_last_of('.');
+    return stop != std::string_view::npos && stop > 0 && stop + 2 < word.size() &&
+           endsNetworkName(word.substr(stop + 1));
+}
+
 // "8|pm": the length of the figure, or the word's length if it is none with a unit.
 std::size_t lengthOfFigure(std::string_view word) {
     if (!isAsciiDigit(word[0]) || !isAsciiLetter(word.back())) return word.size();
@@ -254,6 +268,8 @@ void Tokeniser::takeMarks(std::size_t chunkEnd, TokenKind kind) {
 
 void Tokeniser::takeWord(std::size_t end) {
     if (plain_) return takeStem(end);
+    if (conventions_.english && isNetworkName(paragraph_.substr(at_, end - at_)))
+        return put(end, TokenKind::word, true);
     takeFigure(end);
     if (!conventions_.english) return put(end, TokenKind::word);
     const std::size_t stemEnd = at_ + startOfEnclitic(paragraph_.substr(at_, end - at_));
@@ -271,10 +287,24 @@ void Tokeniser::takeFigure(std::size_t end) {
 void Tokeniser::takeStem(std::size_t end) {
     const std::string_view stem = paragraph_.substr(at_, end - at_);
     if (!conventions_.english) return put(end, TokenKind::word);
-    const std::size_t contraction = firstPartOfContraction(stem);
+    if (isIrishName(stem)) return put(end, TokenKind::word, true);
+    std::size_t contraction = firstPartOfContraction(stem);
+    if (contraction == 0 && mayTellOwner(stem) && isNotOwned(wordAfterSpace(end)))
+        contraction = stem.size() - 1;
     const std::size_t split = contraction > 0 || plain_ ? contraction : startOfEnclitic(stem);
     if (split > 0 && split < stem.size()) put(at_ + split, TokenKind::word);
     put(end, TokenKind::word);
+}
+
+// The letters after one space at `at`, with white space behind them; empty if something else is there.
+std::string_view Tokeniser::wordAfterSpace(std::size_t at) const {
+    if (at >= paragraph_.size() || paragraph_[at] != ' ') return {};
+    const std::size_t start = at + 1;
+    std::size_t end = start;
+    while (end < paragraph_.size() && isAsciiLetter(paragraph_[end]))
+        ++end;
+    const bool isWhole = end == paragraph_.size() || static_cast<unsigned char>(paragraph_[end]) <= ' ';
+    return isWhole ? paragraph_.substr(start, end - start) : std::string_view();
 }
 
 void Tokeniser::takeJoinedWords(std::size_t chunkEnd) {

@@ -48,6 +48,7 @@ private:
     void takeWord(std::size_t end);
     void takeFigure(std::size_t end);
     void takeStem(std::size_t end);
+    [[nodiscard]] std::string_view wordAfterSpace(std::size_t at) const;
     void takeJoinedWords(std::size_t chunkEnd);
     void takeMarks(std::size_t chunkEnd, TokenKind kind);
 
