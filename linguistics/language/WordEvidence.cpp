@@ -27,6 +27,10 @@ constexpr Worth forNeighbour{8 * unitsPerNat, 3};
 constexpr Worth forOthers{8 * unitsPerNat, 6};
 constexpr std::int32_t closeRacePerLetter = 1;
 
+// The detector is sure of rare languages where it sees a name or a heading. Among text in another language
+// they need so many letters.
+constexpr std::uint32_t fewestLettersForOthers = 20;
+
 // The detector often takes Bokmål, Indonesian, Dutch, Portuguese and Spanish for these.
 constexpr std::array<std::string_view, 4> neighbours = {"nn", "ms", "af", "gl"};
 
@@ -43,7 +47,10 @@ Worth worthOf(quadgrams::Answer answer, bool wellKnown) {
 WordEvidence::WordEvidence(const NgramModel& model, const LetterText& text, Writing writing,
                            std::string_view expected)
     : model_(model), text_(text), writing_(writing), scores_(model.scoresOf(text.words())) {
-    if (const auto language = find(expected)) scores_[*language] += expectedBonus;
+    const auto language = find(expected);
+    if (!language) return;
+    scores_[*language] += expectedBonus;
+    isShort_ = text.letters() < fewestLettersForOthers;
 }
 
 WordEvidence::Verdict WordEvidence::verdict() {
@@ -95,7 +102,9 @@ WordEvidence::Verdict WordEvidence::verdictOn(Best best) const {
 WordEvidence::Verdict WordEvidence::joinedWith(quadgrams::Answer answer, Best own) {
     if (answer.language.empty()) return verdictOn(own);
     const auto language = find(answer.language);
-    const Worth worth = worthOf(answer, language && model_.languages()[*language].thorough != 0);
+    const bool wellKnown = language && model_.languages()[*language].thorough != 0;
+    if (isShort_ && !wellKnown) return verdictOn(own);
+    const Worth worth = worthOf(answer, wellKnown);
     const std::int32_t bonus = worth.once + perLetter(worth.perLetter);
     if (language) {
         scores_[*language] += bonus;

@@ -45,6 +45,7 @@ private:
     const LetterText& text_;
     Writing writing_;
     NgramModel::Scores scores_;
+    bool isShort_ = false; ///< and text in another language is around it
 };
 
 } // namespace lexiform::linguistics

@@ -17,6 +17,13 @@ bool startsWord(CharacterClass kind) {
     return kind == CharacterClass::letter || kind == CharacterClass::digit;
 }
 
+// "report.pdf", which what has been learnt of full stops would part.
+bool isNetworkName(std::string_view word) {
+    const std::size_t stop = word.find_last_of('.');
+    return stop != std::string_view::npos && stop > 0 && stop + 2 < word.size() &&
+           endsNetworkName(word.substr(stop + 1));
+}
+
 // "8|pm": the length of the figure, or the word's length if it is none with a unit.
 std::size_t lengthOfFigure(std::string_view word) {
     if (!isAsciiDigit(word[0]) || !isAsciiLetter(word.back())) return word.size();
@@ -111,8 +118,8 @@ void ChunkCutter::takeMarks(TokenKind kind) {
 }
 
 void ChunkCutter::takeWord(std::size_t end) {
-    if (!chunk_.isPlain) takeFigure(end);
     if (conventions_.english) return takeEnglishWord(end);
+    if (!chunk_.isPlain) takeFigure(end);
     if (conventions_.tiesPronouns) return takeFrenchWord(end);
     put(end, TokenKind::word);
 }
@@ -125,6 +132,8 @@ void ChunkCutter::takeFigure(std::size_t end) {
 
 void ChunkCutter::takeEnglishWord(std::size_t end) {
     if (chunk_.isPlain) return takeEnglishStem(end);
+    if (isNetworkName(paragraph_.substr(at_, end - at_))) return put(end, TokenKind::word, true);
+    takeFigure(end);
     const std::size_t stemEnd = at_ + startOfEnclitic(paragraph_.substr(at_, end - at_));
     takeEnglishStem(stemEnd);
     if (stemEnd < end) put(end, TokenKind::word);
@@ -133,10 +142,25 @@ void ChunkCutter::takeEnglishWord(std::size_t end) {
 // A word without its last enclitic, which may hold another ("should|n't" of "shouldn't've").
 void ChunkCutter::takeEnglishStem(std::size_t end) {
     const std::string_view stem = paragraph_.substr(at_, end - at_);
-    const std::size_t contraction = firstPartOfContraction(stem);
+    // Whatever has been learnt of its parts.
+    if (isIrishName(stem)) return put(end, TokenKind::word, true);
+    std::size_t contraction = firstPartOfContraction(stem);
+    if (contraction == 0 && mayTellOwner(stem) && isNotOwned(wordAfterSpace(end)))
+        contraction = stem.size() - 1;
     const std::size_t split = contraction > 0 || chunk_.isPlain ? contraction : startOfEnclitic(stem);
     if (split > 0 && split < stem.size()) put(at_ + split, TokenKind::word);
     put(end, TokenKind::word);
+}
+
+// The letters after one space at `at`, with white space behind them; empty if something else is there.
+std::string_view ChunkCutter::wordAfterSpace(std::size_t at) const {
+    if (at >= paragraph_.size() || paragraph_[at] != ' ') return {};
+    const std::size_t start = at + 1;
+    std::size_t end = start;
+    while (end < paragraph_.size() && isAsciiLetter(paragraph_[end]))
+        ++end;
+    const bool isWhole = end == paragraph_.size() || static_cast<unsigned char>(paragraph_[end]) <= ' ';
+    return isWhole ? paragraph_.substr(start, end - start) : std::string_view();
 }
 
 // The training texts have too few dialogues to say more of the pronouns than the rules do.

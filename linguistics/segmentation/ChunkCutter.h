@@ -46,6 +46,7 @@ private:
     void takeFigure(std::size_t end);
     void takeEnglishWord(std::size_t end);
     void takeEnglishStem(std::size_t end);
+    [[nodiscard]] std::string_view wordAfterSpace(std::size_t at) const;
     void takeFrenchWord(std::size_t end);
     void takeJoinedWords();
 

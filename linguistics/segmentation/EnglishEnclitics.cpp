@@ -33,4 +33,10 @@ std::size_t startOfEnclitic(std::string_view word) {
     return lengthOfEnclitic(word.substr(start)) == length + tail.size() ? start : word.size();
 }
 
+bool isIrishName(std::string_view word) {
+    const std::size_t mark = word.size() > 3 && word[0] == 'O' ? lengthOfApostrophe(word.substr(1)) : 0;
+    return mark > 0 && mark + 2 < word.size() && isAsciiUpper(word[mark + 1]) &&
+           isAsciiLetter(word[mark + 2]);
+}
+
 } // namespace lexiform::linguistics

@@ -9,4 +9,7 @@ namespace lexiform::linguistics {
 /// none.
 [[nodiscard]] std::size_t startOfEnclitic(std::string_view word);
 
+/// Whether an English word is a name as "O'Neill", which is one token.
+[[nodiscard]] bool isIrishName(std::string_view word);
+
 } // namespace lexiform::linguistics

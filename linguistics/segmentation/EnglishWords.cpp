@@ -55,13 +55,28 @@ struct Contraction {
 
 // "cant" and "wont" are words of their own too, but hardly ever meant.
 constexpr std::array contractions = {
-    Contraction{"aint", 2},    Contraction{"arent", 3},   Contraction{"cannot", 3},   Contraction{"cant", 2},
-    Contraction{"couldnt", 5}, Contraction{"didnt", 3},   Contraction{"doesnt", 4},   Contraction{"dont", 2},
-    Contraction{"gonna", 3},   Contraction{"gotta", 3},   Contraction{"hadnt", 3},    Contraction{"hasnt", 3},
-    Contraction{"havent", 4},  Contraction{"im", 1},      Contraction{"isnt", 2},     Contraction{"ive", 1},
-    Contraction{"lotta", 3},   Contraction{"outta", 3},   Contraction{"shouldnt", 6}, Contraction{"thats", 4},
-    Contraction{"theres", 5},  Contraction{"theyre", 4},  Contraction{"wanna", 3},    Contraction{"wasnt", 3},
-    Contraction{"wont", 2},    Contraction{"wouldnt", 5}, Contraction{"youre", 3}};
+    Contraction{"aint", 2},     Contraction{"alot", 1},    Contraction{"arent", 3},  Contraction{"cannot", 3},
+    Contraction{"cant", 2},     Contraction{"couldnt", 5}, Contraction{"didnt", 3},  Contraction{"doesnt", 4},
+    Contraction{"dont", 2},     Contraction{"gonna", 3},   Contraction{"gotta", 3},  Contraction{"hadnt", 3},
+    Contraction{"hasnt", 3},    Contraction{"havent", 4},  Contraction{"heres", 4},  Contraction{"hes", 2},
+    Contraction{"im", 1},       Contraction{"isnt", 2},    Contraction{"itll", 2},   Contraction{"ive", 1},
+    Contraction{"lotta", 3},    Contraction{"mustnt", 4},  Contraction{"outta", 3},  Contraction{"shes", 3},
+    Contraction{"shouldnt", 6}, Contraction{"thats", 4},   Contraction{"theres", 5}, Contraction{"theyll", 4},
+    Contraction{"theyre", 4},   Contraction{"theyve", 4},  Contraction{"wanna", 3},  Contraction{"wasnt", 3},
+    Contraction{"werent", 4},   Contraction{"weve", 2},    Contraction{"whats", 4},  Contraction{"wheres", 5},
+    Contraction{"wont", 2},     Contraction{"wouldnt", 5}, Contraction{"youll", 3},  Contraction{"youre", 3},
+    Contraction{"youve", 3}};
+
+// Words that hardly ever follow "its" and "your" where these tell an owner.
+constexpr std::array notOwned = {
+    "a"sv,      "actually"sv, "all"sv,   "almost"sv,     "already"sv, "also"sv,   "always"sv,
+    "an"sv,     "because"sv,  "been"sv,  "definitely"sv, "getting"sv, "going"sv,  "gonna"sv,
+    "he"sv,     "her"sv,      "his"sv,   "how"sv,        "i"sv,       "in"sv,     "it"sv,
+    "just"sv,   "like"sv,     "my"sv,    "never"sv,      "no"sv,      "not"sv,    "nothing"sv,
+    "ok"sv,     "okay"sv,     "on"sv,    "probably"sv,   "quite"sv,   "really"sv, "she"sv,
+    "simply"sv, "so"sv,       "still"sv, "that"sv,       "the"sv,     "their"sv,  "they"sv,
+    "this"sv,   "to"sv,       "too"sv,   "usually"sv,    "we"sv,      "what"sv,   "where"sv,
+    "why"sv,    "you"sv,      "your"sv};
 
 constexpr bool orderedByWord(const Contraction& a, const Contraction& b) {
     return a.word < b.word;
@@ -74,6 +89,7 @@ static_assert(std::is_sorted(dayNames.begin(), dayNames.end()));
 static_assert(std::is_sorted(titles.begin(), titles.end()));
 static_assert(std::is_sorted(prefixes.begin(), prefixes.end()));
 static_assert(std::is_sorted(units.begin(), units.end()));
+static_assert(std::is_sorted(notOwned.begin(), notOwned.end()));
 static_assert(std::is_sorted(networkEndings.begin(), networkEndings.end()));
 static_assert(std::is_sorted(contractions.begin(), contractions.end(), orderedByWord));
 
@@ -91,6 +107,8 @@ constexpr bool endsLikeContraction(std::string_view word) {
         return before == 'v' || before == 'r';
     case 's':
         return before == 't' || before == 'e';
+    case 'l':
+        return before == 'l';
     default:
         return false;
     }
@@ -143,6 +161,15 @@ std::size_t firstPartOfContraction(std::string_view word) {
     const auto* found = std::lower_bound(contractions.begin(), contractions.end(),
                                          Contraction{lower.view(), 0}, orderedByWord);
     return found != contractions.end() && found->word == lower.view() ? found->firstPart : 0;
+}
+
+bool mayTellOwner(std::string_view word) {
+    if (word.size() == 3) return word.ends_with("ts") && asciiLower(word[0]) == 'i';
+    return word.size() == 4 && word.ends_with("our") && asciiLower(word[0]) == 'y';
+}
+
+bool isNotOwned(std::string_view word) {
+    return holds(notOwned, LowerCasedWord(word).view());
 }
 
 } // namespace lexiform::linguistics

@@ -28,4 +28,9 @@ namespace lexiform::linguistics {
 /// "do|nt"); 0 for any other.
 [[nodiscard]] std::size_t firstPartOfContraction(std::string_view word);
 
+/// Whether "its" or "your", which may be "it|s" or "you|r", but not in capitals.
+[[nodiscard]] bool mayTellOwner(std::string_view word);
+/// Whether a word hardly ever follows "its" and "your" where these tell an owner ("not", "a").
+[[nodiscard]] bool isNotOwned(std::string_view word);
+
 } // namespace lexiform::linguistics

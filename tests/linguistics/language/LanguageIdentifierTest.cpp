@@ -138,6 +138,13 @@ TEST_F(TrainedIdentifier, prefersTheLanguageAroundAShortText) {
     EXPECT_EQ(identifier_->guess("Niemand wusste, warum die Lichter noch brannten.", "en").language, "de");
 }
 
+TEST_F(TrainedIdentifier, isNotSureOfAnotherLanguageByANameAlone) {
+    for (const char* name : {"Phillip", "Vladi Pimenov", "R.E. Glenn", "Lizzie"}) {
+        const auto guess = identifier_->guess(name, "en");
+        EXPECT_TRUE(guess.language == "en" || guess.confidence() < 90) << name << ": " << guess.language;
+    }
+}
+
 TEST_F(TrainedIdentifier, tellsDecomposedTextLikeComposed) {
     EXPECT_EQ(identifier_
                   ->guess("Kho\xCC\x82ng ai bie\xCC\x82\xCC\x81t ta\xCC\xA3i sao co\xCC\x82 "

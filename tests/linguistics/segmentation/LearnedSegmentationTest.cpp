@@ -70,6 +70,11 @@ TEST_F(ArbitraryLearning, startsASentenceInEveryParagraph) {
     }
 }
 
+TEST_F(ArbitraryLearning, leavesFileNamesAndIrishNamesWhole) {
+    EXPECT_EQ(tokensOf("report.pdf", "en", &learned_).size(), 1U);
+    EXPECT_EQ(tokensOf("O'Neill", "en", &learned_).size(), 1U);
+}
+
 TEST_F(ArbitraryLearning, neverPartsALetterFromItsMarks) {
     const std::string text = "cafe\xCC\x81-o\xCC\x88rt 5e\xCC\x81";
     for (const Token& token : tokensOf(text, "en", &learned_))

@@ -22,6 +22,19 @@ TEST(Tokeniser, partsContractions) {
     EXPECT_THAT(wordsOf("shouldn't've"), ElementsAre("should", "n't", "'ve"));
 }
 
+TEST(Tokeniser, partsContractionsWrittenWithoutAnApostrophe) {
+    EXPECT_THAT(wordsOf("youll whats alot"), ElementsAre("you", "ll", "what", "s", "a", "lot"));
+    EXPECT_THAT(wordsOf("well hell shell"), ElementsAre("well", "hell", "shell"));
+}
+
+TEST(Tokeniser, partsItsAndYourWhereTheyTellNoOwner) {
+    EXPECT_THAT(wordsOf("Its not far"), ElementsAre("It", "s", "not", "far"));
+    EXPECT_THAT(wordsOf("your the best"), ElementsAre("you", "r", "the", "best"));
+    EXPECT_THAT(wordsOf("its mast"), ElementsAre("its", "mast"));
+    EXPECT_THAT(wordsOf("its in-house crew"), ElementsAre("its", "in", "-", "house", "crew"));
+    EXPECT_THAT(wordsOf("ITS NOT"), ElementsAre("ITS", "NOT"));
+}
+
 TEST(Tokeniser, partsContractionsWithATypographicApostrophe) {
     EXPECT_THAT(wordsOf("don’t she’s"), ElementsAre("do", "n’t", "she", "’s"));
 }

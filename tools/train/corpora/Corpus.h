@@ -27,6 +27,7 @@ struct GoldToken {
 struct GoldSentence {
     std::vector<GoldToken> tokens;
     bool startsParagraph = false;
+    bool namesKnown = true; ///< whether its tokens' names are annotated, where those of its corpus are
 };
 
 using Corpus = std::vector<GoldSentence>;

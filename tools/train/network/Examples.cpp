@@ -51,6 +51,7 @@ std::vector<Example> examplesOf(const GoldSentence& sentence, float posWeight, f
     const bool tagged =
         posWeight > 0 && std::all_of(tokens.begin(), tokens.end(),
                                      [](const GoldToken& token) { return token.pos.has_value(); });
+    const bool named = nameWeight > 0 && sentence.namesKnown;
     std::vector<Example> examples;
     for (std::size_t start = 0; start < tokens.size(); start += longestExample) {
         Example example;
@@ -58,7 +59,7 @@ std::vector<Example> examplesOf(const GoldSentence& sentence, float posWeight, f
         example.nameWeight = nameWeight;
         const std::size_t end = std::min(start + longestExample, tokens.size());
         for (std::size_t i = start; i < end; ++i)
-            addToken(tokens[i], tagged, nameWeight > 0, tables, example);
+            addToken(tokens[i], tagged, named, tables, example);
         repairFirst(example);
         examples.push_back(std::move(example));
     }

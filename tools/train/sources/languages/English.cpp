@@ -1,3 +1,4 @@
+#include "tools/train/sources/languages/EnglishNames.h"
 #include "tools/train/sources/languages/Recipes.h"
 #include "tools/train/sources/rules/Preparations.h"
 
@@ -45,7 +46,12 @@ Recipe english() {
     using namespace inEnglish;
     Recipe recipe;
     recipe.training = {
-        {.file = "en_ewt-train.conllu", .tagWeight = 1, .lemmaWeight = 1, .hasSpacing = true},
+        {.file = "en_ewt-train.conllu",
+         .tagWeight = 1,
+         .lemmaWeight = 1,
+         .nameWeight = 1,
+         .hasSpacing = true,
+         .preparations = {namedBy(englishNames())}},
         {.file = "en_gum-train.conllu",
          .tagWeight = 1,
          .lemmaWeight = 1,
