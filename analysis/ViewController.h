@@ -129,6 +129,9 @@ public:
     void listConcButton();
     /// Rebuilds the word dictionaries from the records.
     void recountTaggedText();
+    /// The texts of the output pane that the list counts as `word`, in lower case and each once, the longest
+    /// first; none without records.
+    [[nodiscard]] std::vector<std::string> formsListedAs(std::string_view word) const;
     /// The section of one class, empty for a dictionary without words; adds its total to `totWordC`.
     [[nodiscard]] std::string listWordDict(const WordDictionary& dictionary, std::string_view heading);
 

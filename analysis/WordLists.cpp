@@ -2,10 +2,14 @@
 #include "analysis/ViewController.h"
 #include "analysis/collectTags.h"
 #include "analysis/putPaneText.h"
+#include "analysis/shownText.h"
 #include "analysis/sortedLines.h"
 #include "base/Unicode.h"
 #include "base/checkedSum.h"
 #include "base/fatalError.h"
+
+#include <algorithm>
+#include <set>
 
 namespace lexiform {
 
@@ -15,6 +19,9 @@ namespace {
 constexpr std::array<std::string_view, 10> headings = {
     "Verbs",       "Nouns",     "Adjectives",   "Adverbs",      "Pronouns",
     "Determiners", "Particles", "Prepositions", "Conjunctions", "Names"};
+
+// All views but that of the lemmas show words, as the lexical pass does.
+constexpr int viewOfWords = 0;
 
 /// The lemma of a record, or its word where it has none.
 const std::string& keyOf(const TaggedText& records, std::size_t i) {
@@ -51,6 +58,18 @@ void ViewController::recountTaggedText() {
         const std::string& key = keyOf(taggedText, i);
         countInClass(key, classRow(tagOf(taggedText, i, indTypes)), *this);
     }
+}
+
+std::vector<std::string> ViewController::formsListedAs(std::string_view word) const {
+    const std::string wanted = lowerCased(word);
+    std::set<std::string> forms;
+    for (std::size_t i = 0; i < taggedText.size(); ++i)
+        if (lowerCased(keyOf(taggedText, i)) == wanted)
+            forms.insert(lowerCased(shownText(taggedText, i, shownView_.value_or(viewOfWords))));
+    std::vector<std::string> longestFirst(forms.begin(), forms.end());
+    std::stable_sort(longestFirst.begin(), longestFirst.end(),
+                     [](const auto& a, const auto& b) { return a.size() > b.size(); });
+    return longestFirst;
 }
 
 std::string ViewController::listWordDict(const WordDictionary& dictionary, std::string_view heading) {

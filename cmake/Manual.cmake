@@ -2,6 +2,7 @@
 # tools the application is built without it, and its help window stays empty.
 set(manual_source ${PROJECT_SOURCE_DIR}/resources/manual)
 set(LEXIFORM_MANUAL ${CMAKE_BINARY_DIR}/share/lexiform/LexiformHelp.pdf)
+set(LEXIFORM_MANUAL_LINKS ${CMAKE_BINARY_DIR}/share/lexiform/LexiformHelp.links)
 
 # The packages serve Debian's own Python, which need not be the first one in the path.
 find_program(LEXIFORM_MANUAL_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
@@ -26,7 +27,7 @@ else()
   file(GLOB manual_files CONFIGURE_DEPENDS ${manual_source}/* ${manual_source}/chapters/* ${manual_source}/pictures/*)
   list(FILTER manual_files INCLUDE REGEX "\\.(md|tsv|css|png)$")
   # A fixed seed of hashes and a fixed date: the same sources give the same bytes.
-  add_custom_command(OUTPUT ${LEXIFORM_MANUAL}
+  add_custom_command(OUTPUT ${LEXIFORM_MANUAL} ${LEXIFORM_MANUAL_LINKS}
     COMMAND ${CMAKE_COMMAND} -E env PYTHONHASHSEED=0 PYTHONDONTWRITEBYTECODE=1 SOURCE_DATE_EPOCH=0
       ${LEXIFORM_MANUAL_PYTHON} ${PROJECT_SOURCE_DIR}/tools/manual/build_manual.py
       ${manual_source} ${PROJECT_SOURCE_DIR}/resources/models/README.md ${PROJECT_VERSION} ${LEXIFORM_MANUAL}
@@ -35,5 +36,6 @@ else()
       ${PROJECT_SOURCE_DIR}/resources/icons/lexiform.svg
     COMMENT "Making the manual" VERBATIM)
   add_custom_target(manual ALL DEPENDS ${LEXIFORM_MANUAL})
-  install(FILES ${LEXIFORM_MANUAL} DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform COMPONENT application OPTIONAL)
+  install(FILES ${LEXIFORM_MANUAL} ${LEXIFORM_MANUAL_LINKS} DESTINATION ${CMAKE_INSTALL_DATADIR}/lexiform
+    COMPONENT application OPTIONAL)
 endif()

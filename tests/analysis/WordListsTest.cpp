@@ -212,6 +212,33 @@ TEST(RecountDeathTest, stopsTheProgramForARecordWithoutLemmaOrWord) {
     EXPECT_DEATH(noWord.controller->recountTaggedText(), "neither lemma nor word");
 }
 
+const std::vector<TableRow> forms = {{.word = "Is", .type = "Verb", .lemma = "be"},
+                                     {.word = " ", .type = "Whitespace"},
+                                     {.word = "was", .type = "Verb", .lemma = "be"},
+                                     {.word = "is", .type = "Verb", .lemma = "be"},
+                                     {.word = "Lunde", .type = "PlaceName", .lemma = "Lunde"}};
+
+TEST(ListedForms, areTheWordsOfALemma) {
+    const WindowUnderTest window(textOf(forms), tableTaggers(forms));
+    window.controller->multiParse();
+    EXPECT_EQ(window.controller->formsListedAs("be"), (std::vector<std::string>{"was", "is"}));
+    EXPECT_EQ(window.controller->formsListedAs("Lunde"), std::vector<std::string>{"lunde"});
+    EXPECT_TRUE(window.controller->formsListedAs("was").empty());
+}
+
+TEST(ListedForms, areTheLemmasWhereTheOutputShowsThem) {
+    const WindowUnderTest window(textOf(forms), tableTaggers(forms));
+    window.controller->multiParse();
+    window.controller->showSchemeView(4);
+    EXPECT_EQ(window.controller->formsListedAs("be"), std::vector<std::string>{"be"});
+}
+
+TEST(ListedForms, areUnknownWithoutRecords) {
+    const WindowUnderTest window(textOf(forms), tableTaggers(forms));
+    window.controller->parseText();
+    EXPECT_TRUE(window.controller->formsListedAs("is").empty());
+}
+
 TEST(RecountDeathTest, stopsTheProgramForATypeOutsideItsIndex) {
     for (const std::int64_t type : {-1, 1}) {
         const WindowUnderTest window;

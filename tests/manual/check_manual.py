@@ -4,7 +4,8 @@
 Usage: check_manual.py PDF MANUAL
 
 Passes when its outline has every heading of the chapters, every link within it leads to a page, no page
-is empty, and the pictures that the chapters name are those that there are.
+is empty, the pictures that the chapters name are those that there are, and the file of its links beside it has the same
+links.
 """
 import pathlib
 import re
@@ -63,6 +64,30 @@ def faults_of_pages(reader, texts):
                 if not page.extract_text().strip())
 
 
+def links_by_page(reader):
+    """From which page to which one there are links."""
+    pages = [page.get_object() for page in reader.pages]
+    for number, page in enumerate(reader.pages):
+        for annotation in page.get("/Annots", []):
+            link = annotation.get_object()
+            destination = link.get("/Dest") or link.get("/A", {}).get("/D")
+            if destination and page_of(destination, reader) in pages:
+                yield number, pages.index(page_of(destination, reader))
+
+
+def faults_of_links(pdf, reader):
+    lines = pathlib.Path(pdf).with_suffix(".links").read_text(encoding="utf-8").splitlines()
+    fields = [line.split("\t") for line in lines]
+    beside = {(int(each[0]), int(each[5])) for each in fields}
+    if beside != set(links_by_page(reader)):
+        yield f"other links lie beside the manual: {sorted(beside ^ set(links_by_page(reader)))}"
+    width, height = (float(length) for length in reader.pages[0].mediabox[2:])
+    for each in fields:
+        left, top, across, down = (float(length) for length in each[1:5])
+        if not (0 <= left < left + across <= width and 0 <= top < top + down <= height):
+            yield f"a link lies outside its page: {each}"
+
+
 def faults_of_pictures(manual, texts):
     named = {name for text in texts for name in re.findall(r'src="(.*?)"', text)}
     there = {str(file.relative_to(manual)) for file in (manual / "pictures").iterdir()}
@@ -73,7 +98,8 @@ def faults_of_pictures(manual, texts):
 def main(pdf, manual):
     manual = pathlib.Path(manual)
     reader, texts = PdfReader(pdf), chapters(manual)
-    faults = [*faults_of_pages(reader, texts), *faults_of_pictures(manual, texts)]
+    faults = [*faults_of_pages(reader, texts), *faults_of_links(pdf, reader),
+              *faults_of_pictures(manual, texts)]
     print("\n".join(faults) or f"{len(reader.pages)} pages, {len(headings(texts))} headings")
     return 1 if faults else 0
 

@@ -3,7 +3,9 @@
 
 Usage: build_manual.py MANUAL MODEL-CARD VERSION PDF
 
-MANUAL is resources/manual. Fails when a link leads nowhere or a picture is missing.
+MANUAL is resources/manual. Beside the PDF goes a file of its links for the window that shows it: a line each, with the
+page, left, top, width and height of the link, the page and the top of its target, in points and from page 0.
+Fails when a link leads nowhere or a picture is missing.
 """
 import logging
 import pathlib
@@ -16,6 +18,7 @@ import tables
 
 EXTENSIONS = ["tables", "fenced_code", "attr_list", "toc", "smarty"]
 # British quotation marks stand in the chapters themselves; only dashes and dots are set here.
+POINTS_IN_PIXEL = 0.75
 SETTINGS = {"smarty": {"smart_quotes": False}, "toc": {"toc_depth": "1-2"}}
 
 
@@ -68,17 +71,35 @@ def page(text, version):
 </body></html>"""
 
 
+def links_of(pages):
+    """The links from place to place in the document, a line each."""
+    targets = {}
+    for number, each in enumerate(pages):
+        for name, (_, top) in each.anchors.items():
+            targets.setdefault(name, (number, top))
+    for number, each in enumerate(pages):
+        for kind, name, (left, top, right, bottom), _ in each.links:
+            if kind == "internal":
+                target, target_top = targets[name]
+                place = (length * POINTS_IN_PIXEL for length in (left, top, right - left, bottom - top))
+                yield "\t".join([str(number), *(f"{length:.1f}" for length in place), str(target),
+                                 f"{target_top * POINTS_IN_PIXEL:.1f}"])
+
+
 def main(manual, card, version, pdf):
     manual, card = pathlib.Path(manual).resolve(), pathlib.Path(card)
     complaints = Complaints()
     logging.getLogger("weasyprint").addHandler(complaints)
     html = page(with_tables(chapters_of(manual), manual, card), version)
     document = weasyprint.HTML(string=html, base_url=str(manual) + "/")
-    made = document.write_pdf(stylesheets=[str(manual / "manual.css")])
+    document = document.render(stylesheets=[str(manual / "manual.css")])
+    made = document.write_pdf()
     if complaints.messages:
         sys.exit("\n".join(complaints.messages))
     pathlib.Path(pdf).parent.mkdir(parents=True, exist_ok=True)
     pathlib.Path(pdf).write_bytes(made)
+    links = "".join(line + "\n" for line in links_of(document.pages))
+    pathlib.Path(pdf).with_suffix(".links").write_text(links, encoding="utf-8")
 
 
 if __name__ == "__main__":

@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
+#include <QTextDocumentFragment>
 #include <QTextLayout>
 
 namespace lexiform::qt {
@@ -25,6 +26,11 @@ bool endsALine(const QKeyEvent& event) {
 
 bool deletesForwards(const QKeyEvent& event) {
     return event.matches(QKeySequence::Delete) || event.matches(QKeySequence::DeleteEndOfWord);
+}
+
+// Some programs copy a formatted text without its plain one.
+QString plainTextIn(const QMimeData& source) {
+    return source.hasText() ? source.text() : QTextDocumentFragment::fromHtml(source.html()).toPlainText();
 }
 
 // Pasted lines end as the lines do among which they come.
@@ -94,12 +100,12 @@ void InputTextEdit::stepOverSoftBreak(const QKeyEvent& event) {
 }
 
 bool InputTextEdit::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText();
+    return source->hasText() || source->hasHtml();
 }
 
 void InputTextEdit::insertFromMimeData(const QMimeData* source) {
     QTextCursor cursor = textCursor();
-    const std::string pasted = source->text().toStdString();
+    const std::string pasted = plainTextIn(*source).toStdString();
     insertBlocks(cursor, withOwnLineEnds(cutIntoBlocks(pasted), ownLineEnd()), ownLineEnd());
     setTextCursor(cursor);
 }

@@ -3,7 +3,6 @@
 #include "platform/qt/theme/Appearance.h"
 
 #include <QEvent>
-#include <QPdfPageNavigator>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -15,7 +14,6 @@ namespace lexiform::qt {
 
 namespace {
 
-constexpr int pageMargin = 24;
 constexpr qreal zoomStep = 1.2;
 constexpr qreal smallestZoom = 0.25;
 constexpr qreal largestZoom = 5;
@@ -23,19 +21,17 @@ constexpr qreal largestZoom = 5;
 } // namespace
 
 ManualView::ManualView(QWidget* parent)
-    : QWidget(parent), pages_(new QPdfView(this)), search_(new QPdfSearchModel(this)),
+    : QWidget(parent), pages_(new ManualPages(this)), search_(new QPdfSearchModel(this)),
       page_(new QLabel(this)), zoom_(new QLabel(this)), wanted_(new QLineEdit(this)) {
-    pages_->setPageMode(QPdfView::PageMode::MultiPage);
-    pages_->setDocumentMargins({pageMargin, pageMargin, pageMargin, pageMargin});
-    pages_->setPageSpacing(pageMargin);
-    pages_->setFrameShape(QFrame::NoFrame);
+    pages_->markFound(*search_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeBar());
     column->addWidget(pages_, 1);
     addKeys();
-    connect(pages_->pageNavigator(), &QPdfPageNavigator::currentPageChanged, this, &ManualView::showPlace);
+    connect(pages_->verticalScrollBar(), &QScrollBar::valueChanged, this, &ManualView::showPlace);
+    connect(pages_->verticalScrollBar(), &QScrollBar::rangeChanged, this, &ManualView::showPlace);
     connect(pages_, &QPdfView::zoomFactorChanged, this, &ManualView::showPlace);
     connect(pages_, &QPdfView::zoomModeChanged, this, &ManualView::showPlace);
     pages_->setFocus();
@@ -57,8 +53,9 @@ void ManualView::dressSurround() {
     pages_->setPalette(dressed);
 }
 
-void ManualView::setDocument(QPdfDocument* document) {
+void ManualView::setDocument(QPdfDocument* document, const QList<ManualLink>& links) {
     pages_->setDocument(document);
+    pages_->setLinks(links);
     search_->setDocument(document);
     match_ = -1;
     showPlace();
@@ -73,7 +70,8 @@ bool ManualView::findNext() {
     if (matches == 0) return false;
     match_ = (match_ + 1) % matches;
     const QPdfLink place = search_->resultAtIndex(match_);
-    pages_->pageNavigator()->jump(place.page(), place.location());
+    pages_->setCurrentResult(match_);
+    pages_->goTo(place.page(), place.location().y());
     return true;
 }
 
@@ -82,10 +80,8 @@ QToolBar* ManualView::makeBar() {
     back_ = addCommand(bar, QStringLiteral("‹"), tr("Previous page"), {Qt::ALT | Qt::Key_Left});
     bar->addWidget(page_);
     forward_ = addCommand(bar, QStringLiteral("›"), tr("Next page"), {Qt::ALT | Qt::Key_Right});
-    connect(back_, &QAction::triggered, this,
-            [this] { goToPage(pages_->pageNavigator()->currentPage() - 1); });
-    connect(forward_, &QAction::triggered, this,
-            [this] { goToPage(pages_->pageNavigator()->currentPage() + 1); });
+    connect(back_, &QAction::triggered, this, [this] { goToPage(pages_->pageShown() - 1); });
+    connect(forward_, &QAction::triggered, this, [this] { goToPage(pages_->pageShown() + 1); });
     wanted_->setPlaceholderText(tr("Search"));
     wanted_->setClearButtonEnabled(true);
     bar->addWidget(wanted_);
@@ -109,8 +105,9 @@ QAction* ManualView::addCommand(QToolBar* bar, const QString& title, const QStri
 
 void ManualView::addKeys() {
     connect(wanted_, &QLineEdit::textChanged, this, [this](const QString& text) {
-        search_->setSearchString(text);
         match_ = -1;
+        pages_->setCurrentResult(match_);
+        search_->setSearchString(text);
     });
     connect(wanted_, &QLineEdit::returnPressed, this, &ManualView::findNext);
     connect(new QShortcut(QKeySequence::FindNext, this), &QShortcut::activated, this, &ManualView::findNext);
@@ -129,7 +126,7 @@ void ManualView::addKeys() {
 void ManualView::goToPage(int page) {
     const int count = pages_->document() ? pages_->document()->pageCount() : 0;
     if (page < 0 || page >= count) return;
-    pages_->pageNavigator()->jump(page, {});
+    pages_->goTo(page, 0);
 }
 
 // From a page that is fitted: its zoom is the ratio of the widths.
@@ -140,7 +137,7 @@ void ManualView::zoomBy(qreal factor) {
         constexpr qreal pointsInInch = 72;
         const qreal page =
             pages_->document()->pagePointSize(0).width() * pages_->logicalDpiX() / pointsInInch;
-        now = (pages_->viewport()->width() - 2 * pageMargin) / page;
+        now = (pages_->viewport()->width() - 2 * ManualPages::pageMargin) / page;
     }
     pages_->setZoomMode(QPdfView::ZoomMode::Custom);
     pages_->setZoomFactor(std::clamp(now * factor, smallestZoom, largestZoom));
@@ -148,7 +145,7 @@ void ManualView::zoomBy(qreal factor) {
 
 void ManualView::showPlace() {
     const int count = pages_->document() ? pages_->document()->pageCount() : 0;
-    const int page = pages_->pageNavigator()->currentPage();
+    const int page = pages_->pageShown();
     page_->setText(count == 0 ? QString() : tr("%1 of %2").arg(page + 1).arg(count));
     back_->setEnabled(page > 0);
     forward_->setEnabled(page + 1 < count);

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/qt/sidewindows/ManualPages.h"
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QPdfDocument>
-#include <QPdfSearchModel>
-#include <QPdfView>
 #include <QToolBar>
 
 namespace lexiform::qt {
@@ -17,10 +17,10 @@ public:
     explicit ManualView(QWidget* parent = nullptr);
 
     /// Null for none. The document must outlive the view or be taken out of it.
-    void setDocument(QPdfDocument* document);
+    void setDocument(QPdfDocument* document, const QList<ManualLink>& links = {});
     /// Whether pages are as wide as the view.
     void setFitted(bool fitted);
-    [[nodiscard]] QPdfView* pages() const { return pages_; }
+    [[nodiscard]] ManualPages* pages() const { return pages_; }
 
     /// Goes to the next place with what is searched, from the last one to the first; false without any.
     bool findNext();
@@ -38,7 +38,7 @@ private:
     void zoomBy(qreal factor);
     void showPlace();
 
-    QPdfView* pages_;
+    ManualPages* pages_;
     QPdfSearchModel* search_;
     QLabel* page_;
     QLabel* zoom_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/qt/sidewindows/ManualLink.h"
 #include "ports/PdfView.h"
 
 #include <QPdfDocument>
@@ -16,9 +17,11 @@ public:
     [[nodiscard]] static std::shared_ptr<PdfDocument> read(const std::string& path);
 
     [[nodiscard]] QPdfDocument& document() { return document_; }
+    [[nodiscard]] const QList<ManualLink>& links() const { return links_; }
 
 private:
     QPdfDocument document_;
+    QList<ManualLink> links_;
 };
 
 } // namespace lexiform::qt

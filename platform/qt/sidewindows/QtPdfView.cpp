@@ -13,7 +13,8 @@ QtPdfView::~QtPdfView() {
 
 void QtPdfView::setDocument(std::shared_ptr<PdfDocument> document) {
     const auto next = std::dynamic_pointer_cast<QtPdfDocument>(document);
-    if (view_) view_->setDocument(next ? &next->document() : nullptr);
+    if (view_ && next) view_->setDocument(&next->document(), next->links());
+    if (view_ && !next) view_->setDocument(nullptr);
     shown_ = std::move(document);
 }
 

@@ -104,9 +104,17 @@ void DocumentWindow::connectCommands() {
             &StatusLine::showEdited);
     connect(new FileDropTarget(*this), &FileDropTarget::dropped, this, &DocumentWindow::filesDropped);
     connectPanes(*panes_, paneCommands_.find(),
-                 [this](std::size_t byte) { return controller_->shownWordAt(byte); });
+                 {.wordAt = [this](std::size_t byte) { return controller_->shownWordAt(byte); },
+                  .formsOf = [this](const QString& word) { return formsOf(word); }});
     connect(panes_, &PaneSplitter::arranged, this,
             [this](const QList<int>& sizes) { store_.setPaneSizes(sizes); });
+}
+
+QStringList DocumentWindow::formsOf(const QString& word) const {
+    QStringList forms;
+    for (const std::string& form : controller_->formsListedAs(word.toStdString()))
+        forms.append(QString::fromStdString(form));
+    return forms;
 }
 
 void DocumentWindow::connectCommand(QAction* action, Command command, void (DocumentWindow::*tell)()) {

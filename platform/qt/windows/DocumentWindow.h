@@ -63,6 +63,7 @@ private:
     /// Runs `command` when the action is triggered and then, if anything, `tell` for the status line.
     void connectCommand(QAction* action, Command command, void (DocumentWindow::*tell)() = nullptr);
     void run(Command command, void (DocumentWindow::*tell)() = nullptr);
+    [[nodiscard]] QStringList formsOf(const QString& word) const;
     void showParsed();
     void showMultiParsed();
     void showUnparsed();

@@ -1,6 +1,7 @@
 #include "platform/qt/windows/FindCommands.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -10,6 +11,15 @@ namespace {
 
 QString number(std::size_t value) {
     return QLocale().toString(static_cast<qulonglong>(value));
+}
+
+// One form is shown to the person as it is.
+FindQuery queryFor(const QStringList& forms) {
+    if (forms.size() == 1) return {.wanted = forms.front(), .wholeWord = true};
+    QStringList escaped;
+    for (const QString& form : forms)
+        escaped.append(QRegularExpression::escape(form));
+    return {.wanted = escaped.join(u'|'), .wholeWord = true, .isRegularExpression = true};
 }
 
 } // namespace
@@ -45,9 +55,9 @@ void FindCommands::openBar() {
     searchAsTyped();
 }
 
-void FindCommands::findWord(const QString& word, PaneTextEdit* pane) {
+void FindCommands::findWord(const QStringList& forms, PaneTextEdit* pane) {
     focus_.turnTo(pane);
-    bar_.setQuery({.wanted = word, .wholeWord = true});
+    bar_.setQuery(queryFor(forms));
     forgetMatches();
     bar_.show();
     goToNext();

@@ -27,8 +27,9 @@ public:
     [[nodiscard]] QAction* findNext() const { return findNext_; }
     [[nodiscard]] QAction* findPrevious() const { return findPrevious_; }
 
-    /// Finds the next place of a whole word in `pane`, whatever its case. The keyboard stays where it is.
-    void findWord(const QString& word, PaneTextEdit* pane);
+    /// Finds the next place of a whole word in `pane`, in any of its forms and whatever its case. The
+    /// keyboard stays where it is.
+    void findWord(const QStringList& forms, PaneTextEdit* pane);
 
 private:
     QAction* addCommand(const QString& title, const QList<QKeySequence>& keys,

@@ -70,15 +70,17 @@ QString listedWord(const QString& line) {
     return listed.match(line).captured(1);
 }
 
-void connectPanes(DocumentPanes& panes, FindCommands& find, const WordInquiry& inquire) {
+void connectPanes(DocumentPanes& panes, FindCommands& find, const PaneInquiries& inquiries) {
     OutputTextEdit* output = panes.output();
     QObject::connect(panes.key(), &KeyTextEdit::chosen, output, &OutputTextEdit::toggleOnly);
     QObject::connect(panes.concordance(), &PaneTextEdit::lineDoubleClicked, output,
-                     [output, &find](const QString& line) {
+                     [output, &find, formsOf = inquiries.formsOf](const QString& line) {
                          const QString word = listedWord(line);
-                         if (!word.isEmpty()) find.findWord(word, output);
+                         if (word.isEmpty()) return;
+                         const QStringList forms = formsOf(word);
+                         find.findWord(forms.isEmpty() ? QStringList(word) : forms, output);
                      });
-    const WordTeller teller(panes, inquire);
+    const WordTeller teller(panes, inquiries.wordAt);
     QObject::connect(output, &QPlainTextEdit::cursorPositionChanged, output, [teller, output] {
         const int place = output->textCursor().selectionStart();
         // Each pass sets the caret to the top: only where a reader has moved it is it worth a look-up.

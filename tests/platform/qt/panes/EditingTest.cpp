@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -131,6 +132,28 @@ TEST(Pasting, ofAVeryLongLineBreaksItSoftly) {
     EXPECT_EQ(editor.text(), "start end");
     editor.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(editor.text(), "start " + line + "end");
+}
+
+TEST(Pasting, takesThePlainTextOfAFormattedOne) {
+    Editor editor("");
+    QMimeData copied;
+    copied.setHtml("<p>Another <b>text</b></p>");
+    copied.setText("The **plain** text");
+    EXPECT_EQ(editor.paste(copied).text(), "The **plain** text");
+}
+
+TEST(Pasting, readsAFormattedTextThatComesAlone) {
+    Editor editor("");
+    QMimeData copied;
+    copied.setHtml("<p>Two <b>bold</b></p><p>lines &amp; more</p>");
+    EXPECT_EQ(editor.paste(copied).text(), "Two bold\nlines & more");
+}
+
+TEST(Pasting, passesOverPictures) {
+    Editor editor("as it was");
+    QMimeData copied;
+    copied.setImageData(QImage(8, 8, QImage::Format_RGB32));
+    EXPECT_EQ(editor.paste(copied).text(), "as it was");
 }
 
 TEST(Copying, putsTheExactCharactersOnTheClipboard) {

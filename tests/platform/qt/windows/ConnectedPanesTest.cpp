@@ -1,6 +1,7 @@
 #include "platform/qt/windows/connectPanes.h"
 
 #include "tests/platform/qt/support/DesktopUnderTest.h"
+#include "tests/support/TableTagger.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -66,6 +67,28 @@ TEST_F(ConnectedPanes, findAListedWordInTheOutput) {
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, pointOf(list, line));
     EXPECT_EQ(output.textCursor().selectionStart(), 17);
     EXPECT_EQ(window.findBar()->told(), "2 of 2");
+}
+
+TEST(ConnectedPanesOfLemmas, findAListedLemmaInEachOfItsForms) {
+    const std::vector<TableRow> boats = {{.word = "Boats", .type = "Noun", .lemma = "boat"},
+                                         {.word = " ", .type = "Whitespace"},
+                                         {.word = "lay", .type = "Verb", .lemma = "lie"},
+                                         {.word = " ", .type = "Whitespace"},
+                                         {.word = "lie", .type = "Verb", .lemma = "lie"}};
+    DesktopUnderTest desktop;
+    desktop.makeTagger = tableTaggers(boats);
+    DocumentWindow& window = desktop.typedInto(QString::fromStdString(textOf(boats)));
+    window.textActions().multiParse->trigger();
+    window.textActions().listWords->trigger();
+    emit window.panes()->concordance()->lineDoubleClicked("lie (2)");
+    QTextCursor found = window.panes()->output()->textCursor();
+    EXPECT_EQ(found.selectedText(), "lay");
+    EXPECT_EQ(window.findBar()->told(), "1 of 2");
+    emit window.panes()->concordance()->lineDoubleClicked("lie (2)");
+    found = window.panes()->output()->textCursor();
+    EXPECT_EQ(found.selectedText(), "lie");
+    emit window.panes()->concordance()->lineDoubleClicked("boat (1)");
+    EXPECT_EQ(window.findBar()->query(), (FindQuery{.wanted = "boats", .wholeWord = true}));
 }
 
 TEST_F(ConnectedPanes, takeAListedWordAsItStands) {

@@ -53,7 +53,12 @@ public:
     Editor& paste(const QString& pasted) {
         QMimeData data;
         data.setText(pasted);
-        insertFromMimeData(&data);
+        return paste(data);
+    }
+
+    // What another program has copied; nothing is pasted where the menu would not offer to.
+    Editor& paste(const QMimeData& copied) {
+        if (canInsertFromMimeData(&copied)) insertFromMimeData(&copied);
         return settled();
     }
 
