@@ -84,6 +84,9 @@ void LanguageMarker::mark(std::string_view text, ToldLanguage language, const Wo
     language_ = language;
     commonWords_ = commonWords;
     mainScript_ = mainScriptOf(tokens);
+    isMixed_ = std::any_of(tokens.begin(), tokens.end(), [&](const Token& token) {
+        return !token.script.empty() && token.script != mainScript_;
+    });
     spans_.clear();
     named_.clear();
     owners_.assign(tokens.size(), 0);
@@ -111,7 +114,7 @@ void LanguageMarker::takeSentence(TokenStretch sentence) {
         const ToldLanguage within = languageOfQuotation(quotation, own);
         if (within.language != own.language) put(within, quotation);
     }
-    takeOtherScripts(own.language, sentence);
+    if (isMixed_) takeOtherScripts(own.language, sentence);
 }
 
 ToldLanguage LanguageMarker::languageOfSentence(TokenStretch sentence) {
@@ -157,6 +160,7 @@ void LanguageMarker::takeOtherScript(TokenStretch stretch) {
 }
 
 bool LanguageMarker::isInAnotherScript(std::string_view language, TokenStretch sentence) {
+    if (!isMixed_) return false;
     bool hasWords = false;
     for (const Token& token : sentence.of(tokens_)) {
         if (token.kind != TokenKind::word || token.script.empty()) continue;

@@ -73,6 +73,7 @@ private:
     ToldLanguage language_;
     WordSet commonWords_; ///< of its language
     std::string_view mainScript_;
+    bool isMixed_ = false; ///< whether it holds other scripts too
     std::vector<LanguageSpan> spans_;
     std::vector<std::uint32_t> owners_;
     /// Few words that their script gives a language, but which are analysed with their sentence.

@@ -47,7 +47,8 @@ struct Token {
     std::string_view script{};
     /// BCP 47, for example "en"; empty where it cannot be told. Lasts as long as the paragraph.
     std::string_view language{};
-    /// The dictionary form; nothing for white space, and where none was asked for. Lasts as long as the paragraph.
+    /// The dictionary form; nothing for white space, and where none was asked for. Lasts as long as the
+    /// paragraph.
     std::optional<std::string_view> lemma{};
 };
 
