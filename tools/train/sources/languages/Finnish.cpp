@@ -14,6 +14,7 @@ Rules rules() {
         {form("eikä enkä emmekä etkä ettekä eivätkä"), toTag(AUX)},
         {lemma("olla") && tagged({VERB}) && !formEndsIn("va van vat via vien"), toTag(AUX)},
         {lemmaHolds("#"), toLemmaWithout("#")},
+        {lemma("ettäei"), toLemma("että")},
     };
 }
 
