@@ -2,6 +2,7 @@
 
 #include "linguistics/segmentation/BoundaryFeatures.h"
 
+#include <string_view>
 #include <vector>
 
 namespace lexiform::linguistics {
@@ -12,6 +13,9 @@ public:
     ChunkReviser(const Characters& characters, std::string_view paragraph, const LearnedSegmentation& learned)
         : atomiser_(characters, paragraph, learned), characters_(characters), paragraph_(paragraph),
           learned_(learned) {}
+
+    /// Whether the letters `word` end like one that may be two tokens.
+    [[nodiscard]] bool mayPart(std::string_view word) const { return ChunkAtoms::mayPart(word, learned_); }
 
     /// Replaces the tokens of the rules for the chunk that starts at byte `start` of the paragraph.
     void revise(std::size_t start, std::vector<RuleToken>& tokens);

@@ -17,10 +17,9 @@ void Tokeniser::tokenise(std::string_view paragraph, std::size_t offset, std::st
     at_ = 0;
     tokens_ = &tokens;
     conventions_ = conventionsOf(language);
-    learned_ = learned;
     cutter_.start(paragraph, conventions_, learned);
     reviser_.reset();
-    if (learned_ && learned_->tokenEnds) reviser_.emplace(characters_, paragraph_, *learned_);
+    if (learned && learned->tokenEnds) reviser_.emplace(characters_, paragraph_, *learned);
     const std::size_t first = tokens.size();
     while (at_ < paragraph_.size()) {
         const Unit next = unit(at_);
@@ -31,7 +30,7 @@ void Tokeniser::tokenise(std::string_view paragraph, std::size_t offset, std::st
         else
             takeChunk();
     }
-    joinOverSpaces(paragraph_, offset_, conventions_, learned_, first, tokens);
+    joinOverSpaces(paragraph_, offset_, conventions_, learned, first, tokens);
 }
 
 void Tokeniser::emit(std::size_t end, TokenKind kind) {
@@ -79,8 +78,7 @@ void Tokeniser::takeSpaces() {
 
 void Tokeniser::takeChunk() {
     const Chunk chunk = nextChunk();
-    const bool mayPart =
-        reviser_ && ChunkAtoms::mayPart(paragraph_.substr(chunk.start, chunk.size()), *learned_);
+    const bool mayPart = reviser_ && reviser_->mayPart(paragraph_.substr(chunk.start, chunk.size()));
     if (chunk.isPlain && !conventions_.english && !mayPart) return emitWord(chunk.end);
     cutter_.cut(chunk, pieces_);
     if (reviser_ && (!chunk.isPlain || mayPart || pieces_.size() > 1) && !endsPlainly(chunk))
@@ -94,7 +92,7 @@ bool Tokeniser::endsPlainly(const Chunk& chunk) const {
     const char mark = paragraph_[chunk.end - 1];
     if (mark != ',' && mark != ';' && mark != '!' && mark != '?') return false;
     const std::string_view word = paragraph_.substr(chunk.start, chunk.size() - 1);
-    return std::all_of(word.begin(), word.end(), isAsciiLetter) && !ChunkAtoms::mayPart(word, *learned_);
+    return std::all_of(word.begin(), word.end(), isAsciiLetter) && !reviser_->mayPart(word);
 }
 
 Chunk Tokeniser::nextChunk() const {

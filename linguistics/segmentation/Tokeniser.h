@@ -47,8 +47,7 @@ private:
     std::size_t at_ = 0; ///< the first byte that is in no token yet
     Conventions conventions_;
     std::optional<ChunkReviser> reviser_; ///< where something has been learnt
-    const LearnedSegmentation* learned_ = nullptr;
-    std::vector<RuleToken> pieces_; ///< of the chunk at hand
+    std::vector<RuleToken> pieces_;       ///< of the chunk at hand
     std::vector<Token>* tokens_ = nullptr;
 };
 

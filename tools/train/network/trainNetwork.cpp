@@ -82,6 +82,11 @@ NetworkOptions NetworkOptions::of(std::string_view language) {
         std::find(first.begin(), first.end(), language) != first.end() ? firstRing() : secondRing();
     // The language of most texts is worth more time.
     if (language == "en") options.teachers = 3;
+    // Much of its text has the tags of a chain, which more turns only repeat; its lexicon is large.
+    if (language == "tr") {
+        options.plan.epochs = 8;
+        options.words = 20000;
+    }
     return options;
 }
 

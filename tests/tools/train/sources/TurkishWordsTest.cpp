@@ -25,6 +25,14 @@ TEST(TurkishWords, makeVerbsOfParticiplesAndVerbalNounsOfTheCorpussVerbs) {
     EXPECT_EQ(tagsOf(corpus[0]), "VERB VERB VERB VERB ADJ");
 }
 
+TEST(TurkishWords, leaveTheCasesOfNounsThatAreVerbsBesides) {
+    Corpus corpus = {
+        sentence({finite("yerdi", "yer", verbal), word("yer", NOUN, "yer"), word("yere", NOUN, "yer"),
+                  word("yerde", NOUN, "yer"), word("yeren", ADJ, "yer")})};
+    turkishSplit()(corpus);
+    EXPECT_EQ(tagsOf(corpus[0]), "VERB NOUN NOUN NOUN VERB");
+}
+
 TEST(TurkishWords, splitCopulasOffNounsAndCompoundTenses) {
     Corpus corpus = {sentence({word("hasta", ADJ, "hasta"), finite("hastaydı", "hasta", nominal),
                                finite("gelmişti", "gel", verbal), finite("geldi", "gel", verbal)})};

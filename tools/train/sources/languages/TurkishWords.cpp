@@ -26,6 +26,7 @@ public:
     }
 
     bool isVerbLemma(const std::string& lemma) const { return verbs_.count(lemma) != 0; }
+    bool isNominalLemma(const std::string& lemma) const { return nominals_.count(lemma) != 0; }
     UniversalPos nominalOf(const std::string& lemma) const {
         const auto found = nominals_.find(lemma);
         if (found == nominals_.end()) return NOUN;
@@ -52,14 +53,16 @@ private:
 };
 
 // Whether what the form has after its verbal lemma makes a participle, a verbal noun or a converb of it.
-// The last letter of the lemma may have changed (git, gidip).
-bool hasVerbalEnding(const std::string& form, const std::string& lemma) {
+// The last letter of the lemma may have changed (git, gidip). Of a lemma that is a noun besides, what may be
+// its case is none ("yere", to the place, of yer; yer- is to blame).
+bool hasVerbalEnding(const std::string& form, const std::string& lemma, bool isNominalToo) {
     if (form == lemma) return false;
     std::size_t common = 0;
     while (common < lemma.size() && common < form.size() && lemma[common] == form[common])
         ++common;
     if (common + 2 < lemma.size()) return false;
     const std::string suffixes = harmonised(std::string_view(form).substr(lemma.size()));
+    if (isNominalToo && isNounInflection(suffixes)) return false;
     return isParticiple(suffixes) || isConverb(suffixes);
 }
 
@@ -91,7 +94,8 @@ private:
         if (finite && !verbal) return addPredicateNoun(std::move(token), form);
         if (finite) return addFiniteVerb(std::move(token), form);
         const bool nominal = *token.pos == NOUN || *token.pos == ADJ || *token.pos == ADV;
-        if (nominal && lemmas_.isVerbLemma(*token.lemma) && hasVerbalEnding(form, *token.lemma))
+        if (nominal && lemmas_.isVerbLemma(*token.lemma) &&
+            hasVerbalEnding(form, *token.lemma, lemmas_.isNominalLemma(*token.lemma)))
             token.pos = VERB;
         if (nominal && !token.lemma->ends_with("ki"))
             if (const std::size_t size = kiIn(form); size != 0)
