@@ -8,7 +8,10 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <string>
 #include <thread>
+
+#include <unistd.h>
 
 namespace lexiform::linguistics {
 namespace {
@@ -19,8 +22,9 @@ namespace fs = std::filesystem;
 class ModelFile : public testing::Test {
 protected:
     ModelFile()
-        : folder_(fs::path(testing::TempDir()) /
-                  testing::UnitTest::GetInstance()->current_test_info()->name()) {
+        : folder_(
+              fs::path(testing::TempDir()) /
+              (testing::UnitTest::GetInstance()->current_test_info()->name() + std::to_string(::getpid()))) {
         fs::create_directories(folder_);
         std::ifstream input(fs::path(LEXIFORM_MODELS_DIR) / "en.lxm", std::ios::binary);
         good_.assign(std::istreambuf_iterator<char>(input), {});

@@ -12,11 +12,14 @@
 #include <string>
 #include <vector>
 
+#include <unistd.h>
+
 namespace lexiform::cli {
 
 namespace fs = std::filesystem;
 
-/// A test of a command: a folder of its own, removed afterwards, and what the command wrote.
+/// A test of a command: a folder of its own, also beside another run of the same test, removed afterwards,
+/// and what the command wrote.
 class CommandTest : public testing::Test {
 public:
     static std::string contentOf(const std::string& name) {
@@ -28,8 +31,8 @@ public:
 protected:
     CommandTest() {
         const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = fs::temp_directory_path() /
-                  (std::string("lexiform-") + info->test_suite_name() + "-" + info->name());
+        folder_ = fs::temp_directory_path() / (std::string("lexiform-") + info->test_suite_name() + "-" +
+                                               info->name() + "-" + std::to_string(::getpid()));
         fs::create_directories(folder_);
     }
     ~CommandTest() override { fs::remove_all(folder_); }

@@ -2,7 +2,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <string>
 #include <string_view>
+
+#include <unistd.h>
 
 namespace lexiform::train {
 
@@ -11,7 +14,8 @@ class TextFolder {
 public:
     /// `name` is the test's own, so that tests may run at the same time.
     explicit TextFolder(std::string_view name)
-        : path_(std::filesystem::temp_directory_path() / "lexiform-train-tests" / name) {
+        : path_(std::filesystem::temp_directory_path() /
+                ("lexiform-train-tests-" + std::to_string(::getpid())) / name) {
         std::filesystem::remove_all(path_);
         std::filesystem::create_directories(path_);
     }
