@@ -8,8 +8,8 @@ namespace lexiform::linguistics {
 
 namespace {
 
-// The frequent words of a novel and more; 57 megabytes when full.
-constexpr std::size_t mostWords = std::size_t{24} * 1024;
+// The frequent words of a novel and more; 28 megabytes when full.
+constexpr std::size_t mostWords = std::size_t{12} * 1024;
 // Words met more often than this are kept when the cache is full, so long as they leave room.
 constexpr std::uint32_t seldom = 2;
 constexpr std::size_t mostKept = mostWords / 2;
