@@ -67,7 +67,8 @@ void ManualView::setFitted(bool fitted) {
 
 bool ManualView::findNext() {
     const int matches = search_->rowCount({});
-    if (matches == 0) return false;
+    awaitsMatch_ = matches == 0;
+    if (awaitsMatch_) return false;
     match_ = (match_ + 1) % matches;
     const QPdfLink place = search_->resultAtIndex(match_);
     pages_->setCurrentResult(match_);
@@ -106,8 +107,13 @@ QAction* ManualView::addCommand(QToolBar* bar, const QString& title, const QStri
 void ManualView::addKeys() {
     connect(wanted_, &QLineEdit::textChanged, this, [this](const QString& text) {
         match_ = -1;
+        awaitsMatch_ = false;
         pages_->setCurrentResult(match_);
         search_->setSearchString(text);
+    });
+    // The pages are searched one after the other, behind whoever types fast.
+    connect(search_, &QAbstractItemModel::rowsInserted, this, [this] {
+        if (awaitsMatch_) findNext();
     });
     connect(wanted_, &QLineEdit::returnPressed, this, &ManualView::findNext);
     connect(new QShortcut(QKeySequence::FindNext, this), &QShortcut::activated, this, &ManualView::findNext);

@@ -22,7 +22,8 @@ public:
     void setFitted(bool fitted);
     [[nodiscard]] ManualPages* pages() const { return pages_; }
 
-    /// Goes to the next place with what is searched, from the last one to the first; false without any.
+    /// Goes to the next place with what is searched, from the last one to the first; false without any,
+    /// and then to the first that is found later.
     bool findNext();
 
 protected:
@@ -46,6 +47,7 @@ private:
     QAction* back_ = nullptr;
     QAction* forward_ = nullptr;
     int match_ = -1;
+    bool awaitsMatch_ = false; ///< the next place was asked for before there was any
 };
 
 } // namespace lexiform::qt

@@ -173,5 +173,14 @@ TEST_F(ManualViewTest, marksThePlaceThatItGoesToMore) {
     EXPECT_EQ(pixelsOf(surfacesOf(Appearance::light).selection), 0);
 }
 
+TEST_F(ManualViewTest, goesToAPlaceThatIsFoundAfterItWasAskedFor) {
+    open();
+    auto* const wanted = view.findChild<QLineEdit*>();
+    QTest::keyClicks(wanted, "three");
+    QTest::keyClick(wanted, Qt::Key_Return);
+    EXPECT_EQ(pageShown(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return pageShown() == 2; }));
+}
+
 } // namespace
 } // namespace lexiform::qt
