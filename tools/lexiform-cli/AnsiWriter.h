@@ -23,6 +23,7 @@ private:
 
 class AnsiFormat : public TokenFormat {
 public:
+    [[nodiscard]] linguistics::Depth depth() const override { return linguistics::Depth::classes; }
     [[nodiscard]] std::unique_ptr<TokenWriter> writer() const override {
         return std::make_unique<AnsiWriter>();
     }

@@ -25,6 +25,7 @@ class HtmlFormat : public TokenFormat {
 public:
     [[nodiscard]] std::string start() const override;
     [[nodiscard]] std::string end() const override { return "</pre>\n</body>\n</html>\n"; }
+    [[nodiscard]] linguistics::Depth depth() const override { return linguistics::Depth::classes; }
     [[nodiscard]] std::unique_ptr<TokenWriter> writer() const override {
         return std::make_unique<HtmlWriter>();
     }

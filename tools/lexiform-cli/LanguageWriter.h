@@ -21,6 +21,7 @@ class LanguageFormat : public TokenFormat {
 public:
     explicit LanguageFormat(bool bySentence) : bySentence_(bySentence) {}
 
+    [[nodiscard]] linguistics::Depth depth() const override { return linguistics::Depth::languages; }
     [[nodiscard]] std::unique_ptr<TokenWriter> writer() const override {
         return std::make_unique<LanguageWriter>(bySentence_);
     }

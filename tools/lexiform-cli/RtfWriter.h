@@ -16,6 +16,7 @@ class RtfFormat : public TokenFormat {
 public:
     [[nodiscard]] std::string start() const override { return document::rtfHead(); }
     [[nodiscard]] std::string end() const override { return std::string(document::rtfTail); }
+    [[nodiscard]] linguistics::Depth depth() const override { return linguistics::Depth::classes; }
     [[nodiscard]] std::unique_ptr<TokenWriter> writer() const override {
         return std::make_unique<RtfWriter>();
     }

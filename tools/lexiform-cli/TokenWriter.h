@@ -26,6 +26,8 @@ class TokenFormat {
 public:
     virtual ~TokenFormat() = default;
 
+    /// How deep an analysis this format tells of.
+    [[nodiscard]] virtual linguistics::Depth depth() const { return linguistics::Depth::lemmas; }
     /// Before the first text and after the last.
     [[nodiscard]] virtual std::string start() const { return ""; }
     [[nodiscard]] virtual std::string end() const { return ""; }

@@ -19,7 +19,7 @@ Piece written(const TextBlock& block, const TextContext& context, const TokenFor
               Analyser& analyser) {
     Piece piece;
     const std::unique_ptr<TokenWriter> writer = format.writer();
-    analyser.analyse(block.text, context, [&](const linguistics::Paragraph& paragraph) {
+    analyser.analyse(block.text, context, format.depth(), [&](const linguistics::Paragraph& paragraph) {
         writer->paragraph(paragraph, block, piece);
         return true;
     });
