@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <set>
+#include <unordered_map>
 
 namespace lexiform {
 
@@ -31,6 +32,12 @@ const std::string& keyOf(const TaggedText& records, std::size_t i) {
     const std::string* const word = records.word(i);
     if (word == nullptr) fatalError("a record has neither lemma nor word");
     return *word;
+}
+
+// Without regard to case, but for "İ", whose lower case is two characters, which no search takes for one.
+std::string searchedFor(std::string_view form) {
+    std::string lower = lowerCased(form);
+    return lower.size() == form.size() ? lower : std::string(form);
 }
 
 const std::string& tagOf(const TaggedText& records, std::size_t i, const std::vector<std::string>& indTypes) {
@@ -63,9 +70,15 @@ void ViewController::recountTaggedText() {
 std::vector<std::string> ViewController::formsListedAs(std::string_view word) const {
     const std::string wanted = lowerCased(word);
     std::set<std::string> forms;
-    for (std::size_t i = 0; i < taggedText.size(); ++i)
-        if (lowerCased(keyOf(taggedText, i)) == wanted)
-            forms.insert(lowerCased(shownText(taggedText, i, shownView_.value_or(viewOfWords))));
+    // Records share their strings, so each is looked at once.
+    std::unordered_map<const std::string*, bool> isWanted;
+    for (std::size_t i = 0; i < taggedText.size(); ++i) {
+        const std::string& key = keyOf(taggedText, i);
+        const auto [known, isNew] = isWanted.try_emplace(&key);
+        if (isNew) known->second = lowerCased(key) == wanted;
+        if (known->second)
+            forms.insert(searchedFor(shownText(taggedText, i, shownView_.value_or(viewOfWords))));
+    }
     std::vector<std::string> longestFirst(forms.begin(), forms.end());
     std::stable_sort(longestFirst.begin(), longestFirst.end(),
                      [](const auto& a, const auto& b) { return a.size() > b.size(); });

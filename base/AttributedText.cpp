@@ -1,5 +1,6 @@
 #include "base/AttributedText.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lexiform {
@@ -11,8 +12,10 @@ AttributedText::AttributedText(std::string text, Colour colour) : string_(std::m
 void AttributedText::reserve(std::size_t bytes) {
     // A word and the space behind it are hardly ever shorter; room that is never written takes no memory.
     constexpr std::size_t bytesOfRun = 2;
+    // More than a machine might promise to a text of a gigabyte.
+    constexpr std::size_t mostRuns = std::size_t{16} << 20;
     string_.reserve(bytes);
-    runs_.reserve(bytes / bytesOfRun);
+    runs_.reserve(std::min(bytes / bytesOfRun, mostRuns));
 }
 
 void AttributedText::append(std::string_view piece, Colour colour) {

@@ -7,8 +7,8 @@
 namespace lexiform {
 
 StringIndex::Place StringIndex::added() {
-    // The last place before `none` is left free for whoever keeps places and needs one for "none".
-    if (size_ >= none - 1) fatalError("a text has too many distinct words");
+    // The largest place stands for none, here and with whoever keeps places.
+    if (size_ >= none) fatalError("a text has too many distinct words");
     return static_cast<Place>(size_++);
 }
 

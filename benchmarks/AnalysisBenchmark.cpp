@@ -75,6 +75,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     std::ifstream input(argv[1], std::ios::binary);
+    if (!input) {
+        std::fprintf(stderr, "cannot read %s\n", argv[1]);
+        return 1;
+    }
     const std::string text{std::istreambuf_iterator<char>(input), {}};
     const int runs = argc > 2 ? std::atoi(argv[2]) : 3;
     const auto models = std::make_shared<const linguistics::ModelStore>(modelFolders());

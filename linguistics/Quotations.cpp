@@ -1,5 +1,6 @@
 #include "linguistics/Quotations.h"
 
+#include <algorithm>
 #include <array>
 
 namespace lexiform::linguistics {
@@ -32,13 +33,18 @@ void Quotations::find(std::string_view text, std::span<const Token> paragraph, T
                       std::size_t shortest) {
     quoted_.clear();
     around_.clear();
+    missing_.clear();
     std::size_t outside = sentence.first;
     for (std::size_t i = sentence.first; i < sentence.end; ++i) {
         if (paragraph[i].kind != TokenKind::punctuation) continue;
         const std::string_view closing = closingOf(substring(text, paragraph[i].range));
-        if (closing.empty()) continue;
+        if (closing.empty() || std::find(missing_.begin(), missing_.end(), closing) != missing_.end())
+            continue;
         const std::size_t close = findSpelt(closing, text, paragraph, i + 1, sentence.end);
-        if (close == sentence.end) continue;
+        if (close == sentence.end) {
+            missing_.push_back(closing);
+            continue;
+        }
         if (paragraph[close].range.start - paragraph[i].range.end() >= shortest) {
             quoted_.push_back({i + 1, close});
             around_.push_back({outside, i + 1});

@@ -36,6 +36,7 @@ public:
 private:
     std::vector<TokenStretch> quoted_;
     std::vector<TokenStretch> around_;
+    std::vector<std::string_view> missing_; ///< marks that do not come in the rest of the sentence
 };
 
 } // namespace lexiform::linguistics

@@ -17,11 +17,12 @@ bool startsWord(CharacterClass kind) {
     return kind == CharacterClass::letter || kind == CharacterClass::digit;
 }
 
-// "report.pdf", which what has been learnt of full stops would part.
+// "report.pdf", which what has been learnt of full stops would part; "fine.Net" lacks a space.
 bool isNetworkName(std::string_view word) {
     const std::size_t stop = word.find_last_of('.');
     return stop != std::string_view::npos && stop > 0 && stop + 2 < word.size() &&
-           endsNetworkName(word.substr(stop + 1));
+           endsNetworkName(word.substr(stop + 1)) &&
+           (!isAsciiUpper(word[stop + 1]) || isAsciiUpper(word[stop - 1]));
 }
 
 // "8|pm": the length of the figure, or the word's length if it is none with a unit.

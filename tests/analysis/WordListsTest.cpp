@@ -233,6 +233,12 @@ TEST(ListedForms, areTheLemmasWhereTheOutputShowsThem) {
     EXPECT_EQ(window.controller->formsListedAs("be"), std::vector<std::string>{"be"});
 }
 
+TEST(ListedForms, areAsTheyStandWhereTheirLowerCaseIsAnotherText) {
+    const WindowUnderTest window;
+    window.controller->taggedText.push_back({.word = "İstanbul", .lemma = "İstanbul"});
+    EXPECT_EQ(window.controller->formsListedAs("İstanbul"), std::vector<std::string>{"İstanbul"});
+}
+
 TEST(ListedForms, areUnknownWithoutRecords) {
     const WindowUnderTest window(textOf(forms), tableTaggers(forms));
     window.controller->parseText();

@@ -181,7 +181,8 @@ std::vector<std::string> contentsOf(int count, char** folders) {
 int main(int count, char** arguments) {
     const int seconds = count > 1 ? std::atoi(arguments[1]) : 5;
     Generator random(count > 2 ? std::strtoull(arguments[2], nullptr, 10) : 1);
-    const std::vector<std::string> seeds = contentsOf(count - 3, arguments + 3);
+    const std::vector<std::string> seeds =
+        count > 3 ? contentsOf(count - 3, arguments + 3) : std::vector<std::string>();
     for (const std::string& seed : seeds)
         run(seed);
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);

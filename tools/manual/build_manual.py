@@ -17,8 +17,8 @@ import weasyprint
 import tables
 
 EXTENSIONS = ["tables", "fenced_code", "attr_list", "toc", "smarty"]
-# British quotation marks stand in the chapters themselves; only dashes and dots are set here.
 POINTS_IN_PIXEL = 0.75
+# British quotation marks stand in the chapters themselves; only dashes and dots are set here.
 SETTINGS = {"smarty": {"smart_quotes": False}, "toc": {"toc_depth": "1-2"}}
 
 

@@ -1,5 +1,6 @@
 #include "platform/qt/panes/InputTextEdit.h"
 
+#include "document/html/HtmlReader.h"
 #include "platform/qt/panes/TextBlocks.h"
 #include "platform/qt/panes/lineEndMarks.h"
 
@@ -7,7 +8,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
-#include <QTextDocumentFragment>
 #include <QTextLayout>
 
 namespace lexiform::qt {
@@ -30,7 +30,12 @@ bool deletesForwards(const QKeyEvent& event) {
 
 // Some programs copy a formatted text without its plain one.
 QString plainTextIn(const QMimeData& source) {
-    return source.hasText() ? source.text() : QTextDocumentFragment::fromHtml(source.html()).toPlainText();
+    if (source.hasText()) return source.text();
+    const auto text = document::readHtml(source.html().toStdString());
+    QString plain = text.succeeded() ? QString::fromStdString(text.value()) : QString();
+    // What is copied ends with its last word, where a page ends with a line.
+    if (plain.endsWith(u'\n')) plain.chop(1);
+    return plain;
 }
 
 // Pasted lines end as the lines do among which they come.
@@ -104,8 +109,10 @@ bool InputTextEdit::canInsertFromMimeData(const QMimeData* source) const {
 }
 
 void InputTextEdit::insertFromMimeData(const QMimeData* source) {
-    QTextCursor cursor = textCursor();
     const std::string pasted = plainTextIn(*source).toStdString();
+    // A picture of a page must not take the place of what is selected.
+    if (pasted.empty()) return;
+    QTextCursor cursor = textCursor();
     insertBlocks(cursor, withOwnLineEnds(cutIntoBlocks(pasted), ownLineEnd()), ownLineEnd());
     setTextCursor(cursor);
 }

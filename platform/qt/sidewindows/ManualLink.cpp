@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace lexiform::qt {
@@ -11,6 +11,8 @@ namespace lexiform::qt {
 namespace {
 
 constexpr qsizetype fieldCount = 7;
+// Of a page or a place on one.
+constexpr double furthest = 1e6;
 
 // A line holds the page, the left, top, width and height of the link, and the page and the top of its target.
 std::optional<ManualLink> linkIn(const QByteArray& line) {
@@ -18,7 +20,7 @@ std::optional<ManualLink> linkIn(const QByteArray& line) {
     for (const QByteArray& field : line.trimmed().split('\t')) {
         bool isNumber = false;
         values.append(field.toDouble(&isNumber));
-        if (!isNumber) return std::nullopt;
+        if (!isNumber || std::abs(values.last()) > furthest) return std::nullopt;
     }
     if (values.size() != fieldCount) return std::nullopt;
     return ManualLink{.page = static_cast<int>(values[0]),

@@ -15,7 +15,7 @@ const QString schemeKey = QStringLiteral("color-scheme");
 
 // A portal answers with its value in a variant within a variant, and tells of a change in one.
 QVariant innermost(QVariant inner) {
-    while (inner.canConvert<QDBusVariant>())
+    while (inner.metaType() == QMetaType::fromType<QDBusVariant>())
         inner = inner.value<QDBusVariant>().variant();
     return inner;
 }

@@ -149,6 +149,22 @@ TEST(Pasting, readsAFormattedTextThatComesAlone) {
     EXPECT_EQ(editor.paste(copied).text(), "Two bold\nlines & more");
 }
 
+TEST(Pasting, keepsTheNoBreakSpacesOfAFormattedText) {
+    Editor editor("");
+    QMimeData copied;
+    copied.setHtml("<p>12&nbsp;hens</p>");
+    EXPECT_EQ(editor.paste(copied).text(), "12\xC2\xA0"
+                                           "hens");
+}
+
+TEST(Pasting, passesOverPicturesOfAPage) {
+    Editor editor("as it was");
+    QMimeData copied;
+    copied.setHtml("<img src='hen.png'>");
+    copied.setImageData(QImage(8, 8, QImage::Format_RGB32));
+    EXPECT_EQ(editor.paste(copied).text(), "as it was");
+}
+
 TEST(Pasting, passesOverPictures) {
     Editor editor("as it was");
     QMimeData copied;
