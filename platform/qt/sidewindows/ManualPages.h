@@ -2,8 +2,11 @@
 
 #include "platform/qt/sidewindows/ManualLink.h"
 
+#include <QPdfDocument>
 #include <QPdfSearchModel>
 #include <QPdfView>
+#include <QPointer>
+#include <QTransform>
 
 namespace lexiform::qt {
 
@@ -28,7 +31,7 @@ public:
     [[nodiscard]] int pageShown() const;
     /// Scrolls a place of a page, in points from its top, to the top of the view, as far as that goes.
     void goTo(int page, qreal top);
-    /// Where a place of a page stands in the viewport at present.
+    /// Where a place of a page that exists, in points, stands in the viewport at present.
     [[nodiscard]] QRectF shownPlace(int page, const QRectF& place) const;
 
 protected:
@@ -37,10 +40,32 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    [[nodiscard]] qreal scaleOf(int page) const;
-    [[nodiscard]] QRectF boxOf(int page) const;
+    /// What decides where the pages lie.
+    struct Setting {
+        QPointer<QPdfDocument> document;
+        int pageCount = 0;
+        ZoomMode zoomMode = ZoomMode::Custom;
+        qreal zoomFactor = 0;
+        int width = 0;
+
+        bool operator==(const Setting&) const = default;
+    };
+    /// A page among all others, in pixels that do not scroll.
+    struct Sheet {
+        QRect box;
+        QTransform fromPoints;
+    };
+
+    [[nodiscard]] const QList<Sheet>& sheets() const;
+    [[nodiscard]] QList<Sheet> layOut() const;
+    [[nodiscard]] QSize sizeOf(const QSizeF& points) const;
+    [[nodiscard]] qsizetype firstEndingBelow(qreal height) const;
+    [[nodiscard]] QPoint scrolled() const;
     [[nodiscard]] const ManualLink* linkAt(QPointF point) const;
 
+    const qreal pixelsInPoint_;
+    mutable Setting setting_; ///< of the sheets as they are kept
+    mutable QList<Sheet> sheets_;
     QList<ManualLink> links_;
     const QPdfSearchModel* search_ = nullptr;
     int current_ = -1;

@@ -54,10 +54,10 @@ void ManualView::dressSurround() {
 }
 
 void ManualView::setDocument(QPdfDocument* document, const QList<ManualLink>& links) {
+    forgetMatch();
     pages_->setDocument(document);
     pages_->setLinks(links);
     search_->setDocument(document);
-    match_ = -1;
     showPlace();
 }
 
@@ -74,6 +74,12 @@ bool ManualView::findNext() {
     pages_->setCurrentResult(match_);
     pages_->goTo(place.page(), place.location().y());
     return true;
+}
+
+void ManualView::forgetMatch() {
+    match_ = -1;
+    awaitsMatch_ = false;
+    pages_->setCurrentResult(match_);
 }
 
 QToolBar* ManualView::makeBar() {
@@ -106,9 +112,7 @@ QAction* ManualView::addCommand(QToolBar* bar, const QString& title, const QStri
 
 void ManualView::addKeys() {
     connect(wanted_, &QLineEdit::textChanged, this, [this](const QString& text) {
-        match_ = -1;
-        awaitsMatch_ = false;
-        pages_->setCurrentResult(match_);
+        forgetMatch();
         search_->setSearchString(text);
     });
     // The pages are searched one after the other, behind whoever types fast.

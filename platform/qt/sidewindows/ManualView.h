@@ -35,6 +35,7 @@ private:
     QAction* addCommand(QToolBar* bar, const QString& title, const QString& toolTip,
                         const QList<QKeySequence>& keys);
     void addKeys();
+    void forgetMatch();
     void goToPage(int page);
     void zoomBy(qreal factor);
     void showPlace();

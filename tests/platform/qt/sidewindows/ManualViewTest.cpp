@@ -182,5 +182,34 @@ TEST_F(ManualViewTest, goesToAPlaceThatIsFoundAfterItWasAskedFor) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return pageShown() == 2; }));
 }
 
+TEST_F(ManualViewTest, goesNowhereInADocumentThatComesAfterAPlaceWasAskedFor) {
+    open();
+    const auto another = std::dynamic_pointer_cast<QtPdfDocument>(QtPdfDocument::read(path.toStdString()));
+    ASSERT_NE(another, nullptr);
+    auto* const wanted = view.findChild<QLineEdit*>();
+    QTest::keyClicks(wanted, "three");
+    QTest::keyClick(wanted, Qt::Key_Return);
+    view.setDocument(&another->document());
+    auto* const search = view.findChild<QPdfSearchModel*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return search->rowCount({}) == 1; }));
+    EXPECT_EQ(pageShown(), 0);
+    view.setDocument(nullptr);
+}
+
+TEST_F(ManualViewTest, marksNoPlaceMoreInADocumentThatComesLater) {
+    open();
+    ASSERT_TRUE(find("one", 1));
+    ASSERT_TRUE(view.findNext());
+    ASSERT_GT(pixelsOf(surfacesOf(Appearance::dark).focus), 100);
+    const auto another = std::dynamic_pointer_cast<QtPdfDocument>(QtPdfDocument::read(path.toStdString()));
+    ASSERT_NE(another, nullptr);
+    view.setDocument(&another->document());
+    auto* const search = view.findChild<QPdfSearchModel*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return search->rowCount({}) == 1; }));
+    EXPECT_EQ(pixelsOf(surfacesOf(Appearance::dark).focus), 0);
+    EXPECT_GT(pixelsOf(surfacesOf(Appearance::light).selection), 100);
+    view.setDocument(nullptr);
+}
+
 } // namespace
 } // namespace lexiform::qt
