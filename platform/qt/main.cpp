@@ -20,6 +20,7 @@
 #include "platform/qt/theme/ApplicationIcon.h"
 #include "platform/qt/theme/PortalAppearance.h"
 #include "platform/qt/theme/Theme.h"
+#include "platform/qt/theme/ToolkitFont.h"
 #include "platform/qt/theme/pixmapCache.h"
 #include "platform/qt/windows/StateStore.h"
 #include "platform/qt/windows/documentScene.h"
@@ -100,6 +101,7 @@ int run(QApplication& application, const QStringList& files) {
     qt::StateStore store(configFile(QStringLiteral("state.ini")));
     qt::Theme theme(application, store.appearance());
     theme.setClassMarks(store.classMarks());
+    const qt::ToolkitFont font;
     const qt::PortalAppearance portal(QDBusConnection::sessionBus());
     QObject::connect(&portal, &qt::PortalAppearance::changed, &theme, &qt::Theme::setDesktopPreference);
     qt::WindowList windows;

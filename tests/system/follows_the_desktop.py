@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Turns the desktop dark and light again while the program runs, and looks whether its window follows.
+"""Turns the desktop dark and light again, and its font large, while the program runs: does its window follow?
 
 Usage: follows_the_desktop.py PROGRAM FILE MODELS
 
 A desktop tells programs of its appearance in one of two ways: by the portal for settings on the message bus, and by
-the theme in the settings of the X server. Each is turned on an X server and a bus of the test's own.
+the theme in the settings of the X server, where the font is, too. Each is turned on an X server and a bus of the
+test's own.
 """
 
 import os
@@ -21,6 +22,7 @@ COLOURS = {
     "dark": ((0x23, 0x27, 0x2D), (0x15, 0x18, 0x1C), (0xE7, 0xE9, 0xEC), (0xFF, 0x69, 0x61)),
 }
 PIXELS_WANTED = 15
+FONT_GROWTH = 1.3
 SCHEMES = {"dark": 1, "light": 2}
 PORTAL = """<node><interface name="org.freedesktop.portal.Settings">
   <method name="Read"><arg type="s" direction="in"/><arg type="s" direction="in"/>
@@ -60,18 +62,27 @@ class ThemeDesktop(Desktop):
 
     def __init__(self):
         self.settings = tempfile.NamedTemporaryFile("w", encoding="utf-8")
-        self.name("Adwaita")
+        self.theme, self.font = "Adwaita", "Noto Sans 10"
+        self.write()
         self.process = subprocess.Popen(["xsettingsd", "-c", self.settings.name], stderr=subprocess.DEVNULL)
 
-    def name(self, theme):
+    def write(self):
         self.settings.seek(0)
         self.settings.truncate()
-        self.settings.write(f'Net/ThemeName "{theme}"\n')
+        self.settings.write(f'Net/ThemeName "{self.theme}"\nGtk/FontName "{self.font}"\n')
         self.settings.flush()
 
-    def turn(self, appearance):
-        self.name("Adwaita-dark" if appearance == "dark" else "Adwaita")
+    def tell(self):
+        self.write()
         self.process.send_signal(signal.SIGHUP)
+
+    def turn(self, appearance):
+        self.theme = "Adwaita-dark" if appearance == "dark" else "Adwaita"
+        self.tell()
+
+    def enlarge_font(self):
+        self.font = "Noto Sans 24"
+        self.tell()
 
 
 def serve_portal():
@@ -113,6 +124,21 @@ def is_dressed(window, appearance):
     return all(count >= PIXELS_WANTED for count in counts.values())
 
 
+def top_of_pane(window):
+    """How far below the window's top its panes begin, which are white in the light: the bars grow with the font."""
+    width, height, pixels = picture_of(window)
+    column = (pixels[3 * (width * y + width // 4):][:3] for y in range(height))
+    return next((y for y, colour in enumerate(column) if colour == b"\xff\xff\xff"), 0)
+
+
+def follow_font(program, desktop, title):
+    window = program.window(title)
+    before = program.wait_for(lambda: top_of_pane(window), "pane")
+    desktop.enlarge_font()
+    program.wait_for(lambda: top_of_pane(window) > before * FONT_GROWTH, "larger font")
+    print(f"{type(desktop).__name__}: the panes begin {top_of_pane(window)} pixels down, not {before}", flush=True)
+
+
 def follow(program, desktop, title):
     window = program.window(title)
     for appearance in ("light", "dark", "light"):
@@ -126,6 +152,8 @@ def look(program_path, file, models):
     for make_desktop, name in ((PortalDesktop, "none"), (ThemeDesktop, "XFCE")):
         with make_desktop() as desktop, running([program_path, file], models, XDG_CURRENT_DESKTOP=name) as program:
             follow(program, desktop, os.path.basename(file))
+            if isinstance(desktop, ThemeDesktop):
+                follow_font(program, desktop, os.path.basename(file))
 
 
 if __name__ == "__main__":
