@@ -131,12 +131,21 @@ def top_of_pane(window):
     return next((y for y, colour in enumerate(column) if colour == b"\xff\xff\xff"), 0)
 
 
+def coloured_pixels(window):
+    """How much of the window is in the colour of verbs: more where the words are larger."""
+    pixels = picture_of(window)[2]
+    colour = bytes(COLOURS["light"][-1])
+    return sum(pixels[at:at + 3] == colour for at in range(0, len(pixels), 3))
+
+
 def follow_font(program, desktop, title):
     window = program.window(title)
-    before = program.wait_for(lambda: top_of_pane(window), "pane")
+    top = program.wait_for(lambda: top_of_pane(window), "pane")
+    verbs = coloured_pixels(window)
     desktop.enlarge_font()
-    program.wait_for(lambda: top_of_pane(window) > before * FONT_GROWTH, "larger font")
-    print(f"{type(desktop).__name__}: the panes begin {top_of_pane(window)} pixels down, not {before}", flush=True)
+    program.wait_for(lambda: top_of_pane(window) > top * FONT_GROWTH, "larger bars")
+    program.wait_for(lambda: coloured_pixels(window) > verbs * FONT_GROWTH, "larger words")
+    print(f"{type(desktop).__name__}: bars and words are larger", flush=True)
 
 
 def follow(program, desktop, title):

@@ -19,6 +19,14 @@ Appearance appearanceOfDesktop(const QPalette& palette) {
     return isDark ? Appearance::dark : Appearance::light;
 }
 
+// A style sheet that is set gives widgets the fonts back that they had when they first got one.
+void giveFontsAgain() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        QEvent change(QEvent::ApplicationFontChange);
+        QCoreApplication::sendEvent(window, &change);
+    }
+}
+
 } // namespace
 
 Theme::Theme(QApplication& application, AppearanceChoice choice)
@@ -90,6 +98,7 @@ void Theme::show(Appearance appearance) {
     shown_ = appearance;
     QApplication::setPalette(paletteOf(appearance));
     application_.setStyleSheet(styleSheetOf(appearance));
+    giveFontsAgain();
 }
 
 } // namespace lexiform::qt

@@ -21,6 +21,8 @@ class ToolkitFont : public QObject {
 public:
     ToolkitFont();
     ~ToolkitFont() override;
+    ToolkitFont(const ToolkitFont&) = delete;
+    ToolkitFont& operator=(const ToolkitFont&) = delete;
 
 private:
     static void takeChange(void* settings, void* property, void* self);
