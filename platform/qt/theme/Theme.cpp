@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QScopedValueRollback>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace lexiform::qt {
 
