@@ -73,7 +73,7 @@ TEST_F(TagCommand, refusesAFolder) {
 
 TEST_F(TagCommand, writesTheSameWithAnyNumberOfThreads) {
     std::string text;
-    for (int i = 0; text.size() < 400'000; ++i)
+    for (int i = 0; text.size() < 900'000; ++i)
         text += "Day " + std::to_string(i) + ": the old sailor said that he'd seen the sea. He left.\n\n";
     const std::string name = file("long.txt", text);
     for (const char* format : {"conllu", "tsv", "json", "ansi"}) {
